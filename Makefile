@@ -1,0 +1,25 @@
+# The two commands of a newcomer: `make run` and `make test`.
+BUILD ?= build
+JOBS ?= 2
+
+.PHONY: all deps configure build run test clean
+
+all: build
+
+deps:
+	@scripts/setup
+
+configure: deps
+	@cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo > /dev/null
+
+build: configure
+	@cmake --build $(BUILD) -j$(JOBS)
+
+run: build
+	@$(BUILD)/src/sim/tanhua-sim --data-dir $(BUILD)/esittely-data scripts/esittely.tanhua
+
+test: build
+	@cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
+
+clean:
+	@rm -rf $(BUILD)

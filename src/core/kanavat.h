@@ -1,0 +1,64 @@
+// The channels through which the game asks and tells the player: one small interface.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tanhua {
+
+// Answers of the Message box.
+inline constexpr const char* KYLLÄ = "Kyllä";
+inline constexpr const char* EI = "Ei";
+inline constexpr const char* VASTATTU = "vastattu";  // the answer of "Sulje"
+
+inline constexpr std::uint32_t RGB(int r, int g, int b) {
+    return static_cast<std::uint32_t>(r) | (static_cast<std::uint32_t>(g) << 8) |
+           (static_cast<std::uint32_t>(b) << 16);
+}
+inline constexpr std::uint32_t MUSTA = RGB(0, 0, 0);
+inline constexpr std::uint32_t PUNAINEN = RGB(180, 0, 0);
+
+// One printed line of a report page: its colour, its tab column and its text.
+struct RaporttiRivi {
+    std::uint32_t väri = MUSTA;
+    int sarake = 5;
+    std::string teksti;
+};
+
+struct RaporttiSivu {
+    std::string otsikko;  // the title bar
+    int fonttikoko = 12;
+    std::vector<RaporttiRivi> rivit;
+};
+
+class Kanavat {
+public:
+    virtual ~Kanavat() = default;
+
+    // The Message box: style 0 has "Sulje", style 1 "Kyllä" and "Ei". Waits for the answer
+    // and returns "Kyllä", "Ei" or "vastattu".
+    virtual std::string Kysy(const std::string& teksti, int tyyli) = 0;
+    // The news window: a picture (a path under the program folder, empty for the blank one) and a text.
+    virtual void Kerro(const std::string& kuva, const std::string& teksti) = 0;
+    // The waiting form of the contract notices: returns once the player has closed the news window.
+    virtual void OdotaIkkunaa() {}
+    // A line of the event list.
+    virtual void ListaRivi(const std::string& rivi) = 0;
+    // A report page, printed whole.
+    virtual void Raportti(const RaporttiSivu& sivu) = 0;
+    // The plain system box with one OK button.
+    virtual void Laatikko(const std::string& teksti) = 0;
+    // A text prompt; returns what the player typed, or the default.
+    virtual std::string Kehote(const std::string& kysymys, const std::string& oletus) = 0;
+    // Plays a wave sound by its file name without extension (klik2, virhe, Koputus, ...).
+    virtual void Ääni(const std::string& nimi) = 0;
+    // Whether a wave output device is there at all.
+    virtual bool ÄäniLaite() { return true; }
+    // The failure box "VikaTila" with Yes and No; true is Yes (go on).
+    virtual bool Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) = 0;
+    // Progress of the loading panel: its text and the bar's units.
+    virtual void Lataus(const std::string& /*texti*/, int /*palkki*/) {}
+};
+
+}  // namespace tanhua

@@ -1,0 +1,76 @@
+// The game context: the farm record with the draws, the channels, the settings and the folders.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "arvonta.h"
+#include "kanavat.h"
+#include "state.h"
+
+namespace tanhua {
+
+// The nine settings of the installation, read from Asetukset.dat at start.
+struct Asetukset {
+    Boolean Resoluutio800 = false;
+    Boolean Animaatiot = false;
+    Integer AnimNopeus = 0;          // 0..100
+    Boolean Kursorit = false;
+    Boolean Musiikki = false;
+    Boolean BiisiSatunnainen = false;
+    Boolean Autotallennus = false;
+    Boolean Äänitehosteet = false;
+    Boolean Prosessorisäästö = false;
+};
+
+// Where the game finds its files: the program folder (Kuvat, Äänet, Midi and the shipped Data)
+// and the data folder (saves, Savetus.dat, the lists).
+struct Kansiot {
+    std::filesystem::path ohjelma;
+    std::filesystem::path data;
+};
+
+// What the main screen shows besides the record, kept here so that the rules can set it
+// without a window.
+struct Näkymä {
+    std::vector<std::string> Lista;      // the event list of the month
+    bool ListaNäkyvissä = false;
+    bool IkkunaNäkyvissä = false;        // the news window
+    std::string IkkunaKuva, IkkunaTeksti;
+    std::string PaluuLomake;             // "Työvoima" or "" for the main screen
+    bool PääruutuKäytössä = true;        // false while a report is open over it
+    bool Hepotalli = false;              // the stable button
+    bool LiikevaihtoNäkyvissä = false;   // the turnover while an accountant is employed
+    std::string MsgTeksti, MsgVastaus;
+    Byte MsgTyyli = 0;
+};
+
+// The controls of the start screen and its loading panel.
+struct AlkuRuutu {
+    std::string Nimesi;
+    int Lista = 0;                // 0 "Vapaa ura...", 1 "Kerää miljoonasta...", 2 "10 vuoden..."
+    int VTaso = 1;                // 0 Helppo, 1 Normaali, 2 Vaikea
+    bool Ohjeita = false;
+    bool TP_Valinta = true;
+    std::string Viime;            // name of the last saved farm
+    bool Command2 = false;        // "Jatka tilannetta" enabled
+    bool LatausNäkyvissä = false;
+    std::string Texti;
+    int palkki = 0;
+};
+
+struct Peli {
+    Peli(Kanavat& kanavat, Kansiot kansiot) : kanavat(kanavat), kansiot(std::move(kansiot)) {}
+
+    Muuttujat m;
+    Arvonta arvonta;
+    Kanavat& kanavat;
+    Asetukset asetukset;
+    Kansiot kansiot;
+    Näkymä näkymä;
+    AlkuRuutu alku;
+    bool käynnissä = false;   // a farm has been started or opened
+};
+
+}  // namespace tanhua

@@ -1,0 +1,10 @@
+// The weather of the day.
+#pragma once
+
+namespace tanhua {
+
+struct Peli;
+
+void Keli(Peli& peli);
+
+}  // namespace tanhua

@@ -1,0 +1,10 @@
+// The star rating of the farm.
+#pragma once
+
+namespace tanhua {
+
+struct Peli;
+
+void TähtiTarkastus(Peli& peli);
+
+}  // namespace tanhua

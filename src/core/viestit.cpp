@@ -1,0 +1,65 @@
+// The game's side of the channels: one shared way to ask, tell, list and sound.
+#include "viestit.h"
+
+#include "peli.h"
+#include "vikatila.h"
+
+namespace tanhua {
+
+std::string Kysy(Peli& peli, const std::string& teksti, int tyyli) {
+    Näkymä& n = peli.näkymä;
+    n.MsgTeksti = teksti;
+    n.MsgVastaus.clear();
+    Aseta(n.MsgTyyli, tyyli);
+    n.MsgVastaus = peli.kanavat.Kysy(teksti, tyyli);
+    return n.MsgVastaus;
+}
+
+bool KysyKyllä(Peli& peli, const std::string& teksti) { return Kysy(peli, teksti, 1) == KYLLÄ; }
+
+void Ilmoita(Peli& peli, const std::string& teksti) { Kysy(peli, teksti, 0); }
+
+void Kieltäydy(Peli& peli, const std::string& teksti) {
+    SoitaÄäni(peli, "virhe");
+    Ilmoita(peli, teksti);
+}
+
+void Kerro(Peli& peli, const std::string& kuva, const std::string& teksti) {
+    Näkymä& n = peli.näkymä;
+    n.IkkunaNäkyvissä = true;
+    n.IkkunaKuva = kuva;
+    n.IkkunaTeksti = teksti;
+    peli.kanavat.Kerro(kuva, teksti);
+}
+
+void LisääListaan(Peli& peli, const std::string& rivi) {
+    peli.näkymä.Lista.push_back(rivi);
+    peli.näkymä.ListaNäkyvissä = true;
+    peli.kanavat.ListaRivi(rivi);
+}
+
+void SoitaÄäni(Peli& peli, const std::string& nimi) {
+    if (!peli.asetukset.Äänitehosteet) return;
+    OmallaLaatikolla(
+        peli, paikka::WavÄäni,
+        [&] {
+            if (!peli.kanavat.ÄäniLaite()) {
+                peli.kanavat.Laatikko(
+                    "Tanhua on suorittanut virhetilan. Ongelman syynä on että tanhua ei löytänyt koneesta "
+                    "äänikorttia tai sitä ei ole oikein asennettu. Tarkasta äänikortin toimivuus sekä sen "
+                    "ajurit. Jos ongelma jatkuu yhä, valitse asetuksista äänitehosteet pois käytöstä.");
+                return;
+            }
+            std::string tiedosto = nimi;
+            if (nimi == "klik") tiedosto += std::to_string(peli.arvonta.U(1, 3));
+            peli.kanavat.Ääni(tiedosto);
+        },
+        [](const Vika&) {
+            return std::string(
+                "Tanhua on suorittanut virhetilan. Ongelman syynä on virhetila wav äänien käsittelyssä. "
+                "Tarkasta äänien toimivuus. Jos ongelma jatkuu yhä, valitse asetuksista äänitehosteet pois "
+                "käytöstä.");
+        });
+}
+
+}  // namespace tanhua

@@ -1,0 +1,45 @@
+// tanhua-sim: runs a script of commands against the game, headless.
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include "skripti.h"
+#include "storage/tiedostot.h"
+
+namespace {
+void Käyttö() {
+    std::cerr << "usage: tanhua-sim [--data-dir DIR] [--program-dir DIR] [SCRIPT]\n"
+                 "Runs SCRIPT, or standard input, one command a line. See docs/tanhua-sim.md.\n";
+}
+}  // namespace
+
+int main(int argc, char** argv) {
+    tanhua::Kansiot kansiot{TANHUA_PROGRAM_DIR, tanhua::OletusDatakansio()};
+    std::string skripti;
+    for (int i = 1; i < argc; ++i) {
+        const std::string a = argv[i];
+        if ((a == "--data-dir" || a == "--program-dir") && i + 1 < argc) {
+            (a == "--data-dir" ? kansiot.data : kansiot.ohjelma) = argv[++i];
+        } else if (a == "-h" || a == "--help") {
+            Käyttö();
+            return 0;
+        } else if (!a.empty() && a[0] == '-' && a != "-") {
+            std::cerr << "tanhua-sim: unknown option '" << a << "'\n";
+            Käyttö();
+            return 2;
+        } else if (skripti.empty()) {
+            skripti = a;
+        } else {
+            Käyttö();
+            return 2;
+        }
+    }
+    tanhua::Ajuri ajuri(kansiot);
+    if (skripti.empty() || skripti == "-") return ajuri.Aja(std::cin, std::cout, std::cerr);
+    std::ifstream tiedosto(skripti);
+    if (!tiedosto) {
+        std::cerr << "tanhua-sim: cannot open script '" << skripti << "'\n";
+        return 2;
+    }
+    return ajuri.Aja(tiedosto, std::cout, std::cerr);
+}

@@ -1,0 +1,52 @@
+// The headless runner: plays a farm from a script of commands.
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/peli.h"
+#include "tallentava.h"
+
+namespace tanhua {
+
+// An operation the script can call by name, with what the player chose on the screen as words.
+struct Toiminto {
+    int vähintään = 0;  // fewest arguments
+    int enintään = 0;   // most arguments
+    std::function<void(Peli&, const std::vector<std::string>&)> aja;
+};
+
+// Every operation `call` knows, by its name in the game (SeuraavaPäivä, Eläimet.Osta, ...).
+const std::map<std::string, Toiminto>& Toiminnot();
+
+// A line split into words: blanks separate, double quotes keep blanks inside a word.
+// Returns false for an unclosed quote.
+bool Sanat(const std::string& rivi, std::vector<std::string>& sanat);
+
+class Ajuri {
+public:
+    explicit Ajuri(Kansiot kansiot);
+
+    // Runs a whole script; 0 when it ran to its end, 1 at the first bad line (told on err).
+    int Aja(std::istream& skripti, std::ostream& ulos, std::ostream& virheet);
+    // Runs one line; throws std::runtime_error with the reason for a bad one.
+    void Rivi(const std::string& rivi, std::ostream& ulos);
+
+    Peli& peli() { return *peli_; }
+    TallentavatKanavat& kanavat() { return kanavat_; }
+
+private:
+    void Uusi(const std::vector<std::string>& sanat);
+    void Kutsu(const std::vector<std::string>& sanat);
+    void Päivät(const std::vector<std::string>& sanat);
+    void SuljeAvoinRaportti();
+
+    TallentavatKanavat kanavat_;
+    std::unique_ptr<Peli> peli_;
+};
+
+}  // namespace tanhua

@@ -1,0 +1,67 @@
+// Recording channels of the headless runner and the tests.
+#include "tallentava.h"
+
+#include <cstdio>
+
+namespace tanhua {
+
+std::string YhdelleRiville(const std::string& teksti) {
+    std::string ulos;
+    for (std::size_t i = 0; i < teksti.size(); ++i) {
+        if (teksti[i] == '\r' && i + 1 < teksti.size() && teksti[i + 1] == '\n') continue;
+        if (teksti[i] == '\n' || teksti[i] == '\r') ulos += "\\n";
+        else ulos += teksti[i];
+    }
+    return ulos;
+}
+
+std::string TallentavatKanavat::SeuraavaVastaus(const std::string& oletus) {
+    if (vastaukset.empty()) return oletus;
+    std::string v = vastaukset.front();
+    vastaukset.pop_front();
+    return v;
+}
+
+std::string TallentavatKanavat::Kysy(const std::string& teksti, int tyyli) {
+    const std::string vastaus = SeuraavaVastaus(tyyli == 0 ? VASTATTU : EI);
+    tapahtumat.push_back("VIESTI|" + std::to_string(tyyli) + "|" + YhdelleRiville(teksti) + "|" + vastaus);
+    return vastaus;
+}
+
+void TallentavatKanavat::Kerro(const std::string& kuva, const std::string& teksti) {
+    tapahtumat.push_back("IKKUNA|" + kuva + "|" + YhdelleRiville(teksti));
+}
+
+void TallentavatKanavat::ListaRivi(const std::string& rivi) { tapahtumat.push_back("LISTA|" + YhdelleRiville(rivi)); }
+
+void TallentavatKanavat::Raportti(const RaporttiSivu& sivu) {
+    raportit.push_back(sivu);
+    tapahtumat.push_back("RAPORTTI|" + YhdelleRiville(sivu.otsikko));
+    for (const RaporttiRivi& rivi : sivu.rivit) {
+        char väri[32];
+        std::snprintf(väri, sizeof väri, "%u,%u,%u", rivi.väri & 0xFF, (rivi.väri >> 8) & 0xFF, (rivi.väri >> 16) & 0xFF);
+        tapahtumat.push_back(std::string("RIVI|") + väri + "|" + std::to_string(rivi.sarake) + "|" +
+                             YhdelleRiville(rivi.teksti));
+    }
+}
+
+void TallentavatKanavat::Laatikko(const std::string& teksti) {
+    tapahtumat.push_back("LAATIKKO|" + YhdelleRiville(teksti));
+}
+
+std::string TallentavatKanavat::Kehote(const std::string& kysymys, const std::string& oletus) {
+    const std::string vastaus = SeuraavaVastaus(oletus);
+    tapahtumat.push_back("KEHOTE|" + YhdelleRiville(kysymys) + "|" + vastaus);
+    return vastaus;
+}
+
+void TallentavatKanavat::Ääni(const std::string& nimi) { tapahtumat.push_back("ÄÄNI|" + nimi); }
+
+bool TallentavatKanavat::Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) {
+    viimeisinVikateksti = teksti;
+    const std::string vastaus = SeuraavaVastaus(KYLLÄ);
+    tapahtumat.push_back("VIKA|" + paikka + "|" + std::to_string(numero) + "|" + vastaus);
+    return vastaus == KYLLÄ;
+}
+
+}  // namespace tanhua

@@ -1,0 +1,123 @@
+// The arithmetic of the game: widths, rounding to even, overflow, Str and the reading of numbers.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "core/laskenta.h"
+
+namespace tanhua {
+namespace {
+
+int VikaNumero(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (const Vika& v) {
+        return v.Numero();
+    }
+    return 0;
+}
+
+TEST(Arithmetic, StoringRoundsHalfToEven) {
+    struct Tapaus { double x; long long odotettu; };
+    for (const Tapaus& t : {Tapaus{2.5, 2}, {3.5, 4}, {-2.5, -2}, {-3.5, -4}, {0.5, 0}, {1.5, 2},
+                            {2.4999, 2}, {2.5001, 3}, {-0.5, 0}, {32766.5, 32766}}) {
+        EXPECT_EQ(CInt(t.x), t.odotettu) << t.x;
+        EXPECT_EQ(CLng(t.x), t.odotettu) << t.x;
+    }
+    EXPECT_EQ(CByte(254.5), 254);
+    EXPECT_EQ(CByte(-0.5), 0);
+}
+
+TEST(Arithmetic, ValuesOutsideTheirWidthAreFailureSix) {
+    struct Tapaus { const char* nimi; std::function<void()> f; int vika; };
+    const Tapaus tapaukset[] = {
+        {"Integer top", [] { CInt(32767.0); }, 0},
+        {"Integer rounds over", [] { CInt(32767.5); }, 6},
+        {"Integer bottom tie", [] { CInt(-32768.5); }, 0},  // the tie goes to -32768
+        {"Integer under", [] { CInt(-32769.0); }, 6},
+        {"Long top", [] { CLng(2147483647.0); }, 0},
+        {"Long over", [] { CLng(2147483648.0); }, 6},
+        {"Byte negative", [] { CByte(-1.0); }, 6},
+        {"Byte over", [] { CByte(255.5); }, 6},
+        {"Byte top", [] { CByte(255.4); }, 0},
+        {"Single over", [] { CSng(1e39); }, 6},
+        {"Single big", [] { CSng(3e38); }, 0},
+        {"not a number", [] { CInt(std::nan("")); }, 6},
+        {"Aseta by width", [] { Integer i = 0; Aseta(i, 40000); }, 6},
+        {"Lisää by width", [] { Byte b = 250; Lisää(b, 6); }, 6},
+    };
+    for (const Tapaus& t : tapaukset) EXPECT_EQ(VikaNumero(t.f), t.vika) << t.nimi;
+}
+
+TEST(Arithmetic, SingleKeepsFractionsAndWholeWidthsDoNot) {
+    Single s = 0;
+    Aseta(s, 3.5);
+    EXPECT_EQ(s, 3.5f);
+    Integer i = 0;
+    Aseta(i, 3.5);
+    EXPECT_EQ(i, 4);
+    Aseta(i, 4.5);
+    EXPECT_EQ(i, 4);
+}
+
+TEST(Arithmetic, IntFixIntegerDivisionAndMod) {
+    EXPECT_EQ(Int(2.7), 2);
+    EXPECT_EQ(Int(-2.5), -3);
+    EXPECT_EQ(Fix(-2.5), -2);
+    struct Tapaus { double a, b; long long jako, jäännös; };
+    for (const Tapaus& t : {Tapaus{7, 2, 3, 1}, {-7, 2, -3, -1}, {7.5, 2, 4, 0}, {2.5, 1.5, 1, 0},
+                            {6.5, 2.5, 3, 0}, {9, -4, -2, 1}, {-9, -4, 2, -1}}) {
+        EXPECT_EQ(JakoKok(t.a, t.b), t.jako) << t.a << " \\ " << t.b;
+        EXPECT_EQ(Mod(t.a, t.b), t.jäännös) << t.a << " Mod " << t.b;
+    }
+    EXPECT_EQ(VikaNumero([] { JakoKok(5, 0.4); }), 11);  // 0.4 rounds to 0
+    EXPECT_EQ(VikaNumero([] { Mod(5, 0); }), 11);
+}
+
+TEST(Arithmetic, RoundGoesToEvenAtAnyPlace) {
+    struct Tapaus { double x; int n; double odotettu; };
+    for (const Tapaus& t : {Tapaus{2.5, 0, 2}, {3.5, 0, 4}, {-2.5, 0, -2}, {1.25, 1, 1.2}, {1.35, 1, 1.4},
+                            {0.375, 2, 0.38}, {12.345678, 3, 12.346}}) {
+        EXPECT_DOUBLE_EQ(Round(t.x, t.n), t.odotettu) << t.x << " at " << t.n;
+    }
+}
+
+TEST(Arithmetic, StrWritesNumbersAsMessagesShowThem) {
+    EXPECT_EQ(Str(5), " 5");
+    EXPECT_EQ(Str(-5), "-5");
+    EXPECT_EQ(Str(0), " 0");
+    EXPECT_EQ(Str(static_cast<Integer>(-32768)), "-32768");
+    struct Tapaus { float x; const char* odotettu; };
+    for (const Tapaus& t : {Tapaus{0.5f, " .5"}, {-0.5f, "-.5"}, {1234567.0f, " 1234567"},
+                            {12345678.0f, " 1.234568E+07"}, {3.14159265f, " 3.141593"}, {10000.0f, " 10000"},
+                            {0.1f, " .1"}, {1e-5f, " 1E-05"}, {0.0001f, " .0001"}, {-1.5f, "-1.5"}, {0.0f, " 0"}}) {
+        EXPECT_EQ(Str(t.x), t.odotettu);
+    }
+    EXPECT_EQ(Str(0.1), " .1");
+    EXPECT_EQ(Str(123456789012.0), " 123456789012");
+    EXPECT_EQ(Str(1.0 / 3.0), " .333333333333333");
+    EXPECT_EQ(Suoraan(Str(42)), "42");
+    EXPECT_EQ(Suoraan(Str(-42)), "-42");
+}
+
+TEST(Arithmetic, ReadingNumbersFromText) {
+    EXPECT_EQ(Val("12abc"), 12);
+    EXPECT_EQ(Val(" 1 2"), 12);
+    EXPECT_EQ(Val("abc"), 0);
+    EXPECT_EQ(Val("-3.5kg"), -3.5);
+    EXPECT_EQ(Val(""), 0);
+    EXPECT_EQ(TekstiLuvuksi(" 42 "), 42);
+    EXPECT_EQ(TekstiLuvuksi("1.5E+2"), 150);
+    EXPECT_EQ(VikaNumero([] { TekstiLuvuksi("abc"); }), 13);
+    EXPECT_EQ(VikaNumero([] { TekstiLuvuksi("12abc"); }), 13);
+    EXPECT_EQ(VikaNumero([] { TekstiLuvuksi(""); }), 13);
+    struct Tapaus { const char* teksti; bool odotettu; };
+    for (const Tapaus& t : {Tapaus{"True", true}, {"false", false}, {"TRUE", true}, {"0", false}, {"-1", true},
+                            {"5", true}}) {
+        EXPECT_EQ(TekstiTotuudeksi(t.teksti), t.odotettu) << t.teksti;
+    }
+    EXPECT_EQ(VikaNumero([] { TekstiTotuudeksi("kyllä"); }), 13);
+}
+
+}  // namespace
+}  // namespace tanhua

@@ -1,0 +1,118 @@
+// The failure reporter: its box text, the count of eight and the silence after it.
+#include <gtest/gtest.h>
+
+#include "core/vikatila.h"
+#include "tuki/testipeli.h"
+
+namespace tanhua {
+namespace {
+
+using testi::Testipeli;
+
+TEST(FailureReporter, BuildsTheBoxTextLineByLine) {
+    Testipeli t;
+    t.m.VikaPaikka = "Tanhua pää formi. Seuraava päivä kohdassa.";
+    VikaTila(t.peli, Vika(53, "File not found"));
+    const std::string väli(20, ' ');
+    const std::string odotettu =
+        "Jossain kohtaa pelissä esiintyi vika, mutta peli yrittää itse ratkaista ongelman.\n"
+        "Jos ohjelma kaatuu seuraavaksi, voit jatkaa tilannettasi lataamalla Autosave.sav tilanteen.\n\n" +
+        väli + "Vian paikka : Tanhua pää formi. Seuraava päivä kohdassa.\n" + väli +
+        "Vian syy : vikanro.53  Selite : File not found\n\n"
+        "Ratkaisu:\n"
+        "Olet todennäköisesti poistanut tai nimennyt jostain kansiosta tiedoston jota tarvitaan. Ongelma "
+        "korjaantuu palauttamalla tiedosto takaisin tai asentamalla pelin uudestaan.\n\n" +
+        väli + "Yritetäänkö jatkaa virhetilanteesta, vai ohitetaanko ongelmakohta?";
+    EXPECT_EQ(t.kanavat.viimeisinVikateksti, odotettu);
+    EXPECT_EQ(t.m.VikaPaikka, "");
+    EXPECT_EQ(t.m.VikaLaskuri, 1);
+    EXPECT_TRUE(t.m.VikaJatkuu);
+}
+
+TEST(FailureReporter, SolutionTextsByNumber) {
+    struct Tapaus { int numero; const char* alku; };
+    for (const Tapaus& c : {Tapaus{6, "Pelin jokin muuttuja ylitti"}, {13, "Olet kirjoittanut pelissä numeron"},
+                            {52, "Tiedostosta ladattaessa avattiin"}, {53, "Olet todennäköisesti poistanut"},
+                            {62, "Tiedosto jota avattiin on väärän kokoinen"}, {76, "Olet todennäköisesti poistanut"},
+                            {380, "Olet todennäköisesti muuttanut"}, {11, "Tähän ongelmaan ei löydy ratkaisua"}}) {
+        EXPECT_EQ(Ratkaisuteksti(c.numero).rfind(c.alku, 0), 0u) << c.numero;
+    }
+}
+
+TEST(FailureReporter, AnEmptyPlaceIsUnknownEachTime) {
+    Testipeli t;
+    VikaTila(t.peli, Vika(6, "Overflow"));
+    VikaTila(t.peli, Vika(6, "Overflow"));
+    const auto tapahtumat = t.Tapahtumat();
+    ASSERT_EQ(tapahtumat.size(), 2u);
+    for (const auto& rivi : tapahtumat) EXPECT_EQ(rivi, "VIKA|Tuntematon / määrittämätön|6|Kyllä");
+}
+
+TEST(FailureReporter, WarnsFromTheFifthAndFallsSilentAfterTheEighth) {
+    Testipeli t;
+    t.peli.asetukset.Äänitehosteet = true;
+    for (int i = 0; i < 7; ++i) t.kanavat.vastaukset.push_back("Kyllä");
+    t.kanavat.vastaukset.push_back("Ei");
+    for (int i = 1; i <= 8; ++i) {
+        VikaTila(t.peli, Vika(6, "Overflow"));
+        const std::string varoitus = "Huom! pelissä on tullut jo " + std::to_string(i) + " ongelmaa.";
+        EXPECT_EQ(t.kanavat.viimeisinVikateksti.find(varoitus) != std::string::npos, i > 4) << i;
+    }
+    EXPECT_FALSE(t.m.VikaJatkuu);
+    t.Tapahtumat();
+    t.kanavat.vastaukset.push_back("Kyllä");
+    VikaTila(t.peli, Vika(6, "Overflow"));
+    EXPECT_TRUE(t.Tapahtumat().empty()) << "the ninth failure shows no box and plays no sound";
+    EXPECT_FALSE(t.m.VikaJatkuu) << "the ninth follows the eighth answer";
+    EXPECT_EQ(t.m.VikaLaskuri, 9);
+}
+
+TEST(FailureReporter, AVersionDifferenceExplainsItselfWhenOpeningASave) {
+    struct Tapaus { float tilanteen; bool versioteksti; };
+    for (const Tapaus& c : {Tapaus{1.4f, true}, {1.5f, false}}) {
+        Testipeli t;
+        t.m.Versio = 1.5f;
+        t.m.TilanteenVersio = c.tilanteen;
+        t.m.VikaPaikka = std::string(paikka::Avaus);
+        VikaTila(t.peli, Vika(62, "Input past end of file"));
+        const std::string& teksti = t.kanavat.viimeisinVikateksti;
+        EXPECT_EQ(teksti.find("Tämän tanhuan versio on  1.5 ja ladattavan tilanteen data:n mukaan tilanteen "
+                              "versio on  1.4. Joudut") != std::string::npos, c.versioteksti);
+        EXPECT_EQ(teksti.find("Tiedosto jota avattiin on väärän kokoinen") != std::string::npos, !c.versioteksti);
+    }
+}
+
+TEST(FailureReporter, GuardedStepsGoOnOrStopByTheAnswer) {
+    struct Tapaus { const char* vastaus; std::vector<int> ajetut; bool loppuun; };
+    for (const Tapaus& c : {Tapaus{"Kyllä", {1, 3}, true}, {"Ei", {1}, false}}) {
+        Testipeli t;
+        t.kanavat.vastaukset.push_back(c.vastaus);
+        std::vector<int> ajetut;
+        const bool loppuun = Vartioitu(t.peli, "Paikka.", {
+            [&] { ajetut.push_back(1); },
+            [&] { Integer i = 0; Aseta(i, 1e6); ajetut.push_back(2); },
+            [&] { ajetut.push_back(3); },
+        });
+        EXPECT_EQ(ajetut, c.ajetut) << c.vastaus;
+        EXPECT_EQ(loppuun, c.loppuun);
+        EXPECT_EQ(t.Tapahtumat().front(), "VIKA|Paikka.|6|" + std::string(c.vastaus));
+    }
+}
+
+TEST(FailureReporter, ASoundFailureShowsItsOwnBoxAndNeverTheReporter) {
+    Testipeli t;
+    t.peli.asetukset.Äänitehosteet = true;
+    struct Kanava : TallentavatKanavat {
+        void Ääni(const std::string&) override { throw Vika(53, "File not found"); }
+    } rikki;
+    Peli peli(rikki, t.peli.kansiot);
+    peli.asetukset.Äänitehosteet = true;
+    VikaTila(peli, Vika(6, "Overflow"));
+    ASSERT_EQ(rikki.tapahtumat.size(), 2u);
+    EXPECT_EQ(rikki.tapahtumat[0].rfind("LAATIKKO|Tanhua on suorittanut virhetilan. Ongelman syynä on virhetila wav", 0), 0u);
+    EXPECT_EQ(rikki.tapahtumat[1], "VIKA|Tuntematon / määrittämätön|6|Kyllä");
+    EXPECT_EQ(peli.m.VikaLaskuri, 1);
+}
+
+}  // namespace
+}  // namespace tanhua
