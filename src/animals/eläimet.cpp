@@ -9,6 +9,5 @@ void EläintenTuotanto(Peli& /*peli*/) {}
 void Ruokinta(Peli& /*peli*/) {}
 void Vanhentuminen(Peli& /*peli*/) {}
 void Lisääntyminen(Peli& /*peli*/) {}
-void AutoTeurastus(Peli& /*peli*/) {}
 
 }  // namespace tanhua

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "../animals/eläinruutu.h"
+#include "../market/tuoteruutu.h"
 #include "arvonta.h"
 #include "kanavat.h"
 #include "state.h"
@@ -70,6 +72,8 @@ struct Peli {
     Kansiot kansiot;
     Näkymä näkymä;
     AlkuRuutu alku;
+    EläinRuutuTila eläinruutu;   // the animal screen's choice while it is open
+    TuoteRuutuTila tuoteruutu;   // the product screen's choice while it is open
     bool käynnissä = false;   // a farm has been started or opened
 };
 

@@ -2,6 +2,7 @@
 #include "päivä.h"
 
 #include "../animals/eläimet.h"
+#include "../animals/kauppa.h"
 #include "../buildings/rakennukset.h"
 #include "../career/tilanne.h"
 #include "../contracts/sopimukset.h"

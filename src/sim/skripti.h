@@ -20,8 +20,18 @@ struct Toiminto {
     std::function<void(Peli&, const std::vector<std::string>&)> aja;
 };
 
+using Toimintoluettelo = std::map<std::string, Toiminto>;
+
 // Every operation `call` knows, by its name in the game (SeuraavaPäivä, Eläimet.Osta, ...).
-const std::map<std::string, Toiminto>& Toiminnot();
+const Toimintoluettelo& Toiminnot();
+
+// Each subsystem adds its own operations.
+void EläintenToiminnot(Toimintoluettelo& t);      // the herd's day and month steps
+void EläinkaupanToiminnot(Toimintoluettelo& t);   // the animal screen and slaughter
+void MarkkinoidenToiminnot(Toimintoluettelo& t);  // the market, the product screen and the bank's market report
+
+// An operation that takes no arguments.
+Toiminto Pelkkä(void (*f)(Peli&));
 
 // A line split into words: blanks separate, double quotes keep blanks inside a word.
 // Returns false for an unclosed quote.

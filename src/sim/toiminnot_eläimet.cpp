@@ -1,0 +1,15 @@
+// The runner's operations of the herd's day and month steps.
+#include "animals/eläimet.h"
+#include "skripti.h"
+
+namespace tanhua {
+
+void EläintenToiminnot(Toimintoluettelo& t) {
+    t["EläintenKunto"] = Pelkkä(EläintenKunto);
+    t["EläintenTuotanto"] = Pelkkä(EläintenTuotanto);
+    t["Ruokinta"] = Pelkkä(Ruokinta);
+    t["Vanhentuminen"] = Pelkkä(Vanhentuminen);
+    t["Lisääntyminen"] = Pelkkä(Lisääntyminen);
+}
+
+}  // namespace tanhua
