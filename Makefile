@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= 2
 
-.PHONY: all deps configure build run test clean
+.PHONY: all deps configure build run test contact-sheet clean
 
 all: build
 
@@ -20,6 +20,9 @@ run: build
 
 test: build
 	@cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
+
+contact-sheet: build
+	@cmake --build $(BUILD) --target tanhua_contact_sheet
 
 clean:
 	@rm -rf $(BUILD)

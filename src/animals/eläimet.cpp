@@ -11,3 +11,4 @@ void Vanhentuminen(Peli& /*peli*/) {}
 void Lisääntyminen(Peli& /*peli*/) {}
 
 }  // namespace tanhua
+namespace tanhua { void TyhjennäSyönnit(Peli& /*peli*/) {} }

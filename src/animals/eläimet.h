@@ -10,5 +10,7 @@ void EläintenTuotanto(Peli& peli);
 void Ruokinta(Peli& peli);
 void Vanhentuminen(Peli& peli);
 void Lisääntyminen(Peli& peli);
+// Moves this month's feed eaten to last month's cost and clears it.
+void TyhjennäSyönnit(Peli& peli);
 
 }  // namespace tanhua

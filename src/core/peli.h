@@ -41,11 +41,14 @@ struct Näkymä {
     bool IkkunaNäkyvissä = false;        // the news window
     std::string IkkunaKuva, IkkunaTeksti;
     std::string PaluuLomake;             // "Työvoima" or "" for the main screen
-    bool PääruutuKäytössä = true;        // false while a report is open over it
+    bool PääruutuKäytössä = true;        // false while the month's report is open over it
+    bool PankkiKäytössä = true;          // false while the market report is open over the bank
+    bool RaporttiAuki = false;           // the report screen is showing a page
     bool Hepotalli = false;              // the stable button
     bool LiikevaihtoNäkyvissä = false;   // the turnover while an accountant is employed
     std::string MsgTeksti, MsgVastaus;
     Byte MsgTyyli = 0;
+    std::vector<std::string> Sopimuksia;  // contract offers waiting on the phone
 };
 
 // The controls of the start screen and its loading panel.

@@ -49,9 +49,14 @@ struct EläimetRuutu {
     std::array<std::string, 2 * TEURASLAATIKOITA> TeurasRaja{};
 };
 
+enum Vakuutus : std::size_t { VakuutusEläin, VakuutusPalo, VakuutusTyö, VakuutusVarkaus, VakuutusTarvike };
+
 struct PankkiRuutu {
-    // order: VakuutusEläin, VakuutusPalo, VakuutusTyö, VakuutusVarkaus, VakuutusTarvike
+    // 0/1 boxes, order: VakuutusEläin, VakuutusPalo, VakuutusTyö, VakuutusVarkaus, VakuutusTarvike
     std::array<Integer, VAKUUTUKSIA> Vakuutus{};
+    // The premium labels (VakuElä, VakuPalo, VakuTyö, VakuVarka, VakuTarvike) in the same order:
+    // whole numbers as the sheet last showed them; the month's bill reads these, not the farm.
+    std::array<std::string, VAKUUTUKSIA> Vakumaksu{};
 };
 
 // The monthly chart lists, each a list of numbers as text, one entry a month.

@@ -58,7 +58,7 @@ Ajuri::Ajuri(Kansiot kansiot) : peli_(std::make_unique<Peli>(kanavat_, std::move
 
 void Ajuri::SuljeAvoinRaportti() {
     // As a player who reads the page and closes it.
-    if (!peli_->näkymä.PääruutuKäytössä) SuljeRaportti(*peli_);
+    if (peli_->näkymä.RaporttiAuki) SuljeRaportti(*peli_);
 }
 
 void Ajuri::Uusi(const std::vector<std::string>& sanat) {

@@ -1,0 +1,13 @@
+// Saving and opening a farm by name.
+#pragma once
+
+#include <string>
+
+namespace tanhua {
+
+struct Peli;
+
+// Writes the farm as the situation of the given name.
+void TallennaTilanne(Peli& peli, const std::string& nimi);
+
+}  // namespace tanhua
