@@ -4,6 +4,7 @@
 #include "../animals/eläimet.h"
 #include "../market/markkinat.h"
 #include "../storage/asetukset.h"
+#include "../storage/tallennus.h"
 #include "../storage/tiedostot.h"
 #include "päivä.h"
 #include "peli.h"
@@ -173,6 +174,36 @@ void UusiTilanneLataus(Peli& peli) {
             m.VikaLaskuri = 0;
         },
     });
+}
+
+bool JatkaTilannetta(Peli& peli) {
+    Muuttujat& m = peli.m;
+    AlkuRuutu& a = peli.alku;
+    a.LatausNäkyvissä = true;
+    AsetaPalkatJaLihat(m);
+    Texti(peli, "Jatketaan edellistä..");
+    Aseta(m.PakkaamoMax, 1000);
+    Aseta(m.PakkaamoKerroin, 0.1);
+    m.VikaLaskuri = 0;
+    AvaaTilanne(peli, a.Viime);
+    const bool avattu = m.VikaLaskuri == 0;
+    if (avattu) {
+        PerusHinnat(peli);
+        AsetaVuodenaika(m);
+        Keli(peli);
+        a.LatausNäkyvissä = false;
+        peli.käynnissä = true;
+        Päivitälukemat(peli);
+    }
+    if (m.VikaLaskuri >= 1 && m.VikaLaskuri <= 4)
+        Ilmoita(peli, "Tilanteen avauksessa syntyi ongelma, joka saattaa vaikuttaa pelissä. Uudelleen lataaminen "
+                      "saattaa korjata tilanteen");
+    else if (m.VikaLaskuri >= 5)
+        Ilmoita(peli, "Tilanteen avauksessa syntyi pahoja ongelmia, jotka vaikuttavat pelaamiseen. Pelin uudelleen "
+                      "käynnistäminen ja jopa asentaminen on suositeltavaa.");
+    m.VikaLaskuri = 0;
+    a.LatausNäkyvissä = false;
+    return avattu;
 }
 
 bool UusiTilanne(Peli& peli) {

@@ -23,6 +23,8 @@ void LaskeVaikeustasoa(Peli& peli);
 bool AloitaUusi(Peli& peli);
 // The load of a new farm with its progress texts.
 void UusiTilanneLataus(Peli& peli);
+// "Jatka tilannetta": opens the last saved farm. Returns true when a farm stands.
+bool JatkaTilannetta(Peli& peli);
 // "Uusi tilanne": asks, then throws the farm away and goes back to the start screen.
 bool UusiTilanne(Peli& peli);
 

@@ -9,6 +9,7 @@
 #include "../market/tuoteruutu.h"
 #include "arvonta.h"
 #include "kanavat.h"
+#include "pääruutu.h"
 #include "state.h"
 
 namespace tanhua {
@@ -45,10 +46,13 @@ struct Näkymä {
     bool PankkiKäytössä = true;          // false while the market report is open over the bank
     bool RaporttiAuki = false;           // the report screen is showing a page
     bool Hepotalli = false;              // the stable button
-    bool LiikevaihtoNäkyvissä = false;   // the turnover while an accountant is employed
     std::string MsgTeksti, MsgVastaus;
     Byte MsgTyyli = 0;
     std::vector<std::string> Sopimuksia;  // contract offers waiting on the phone
+    bool PääruutuNäkyvissä = true;       // false while a sub-screen is open
+    bool Command5Käytössä = true, Command9Käytössä = true;  // locked by stars
+    std::string Ohje;                    // the hint line
+    Lukemat lukemat;                     // the main screen's figures
 };
 
 // The controls of the start screen and its loading panel.

@@ -122,7 +122,11 @@ void SeuraavaPäivä(Peli& peli) {
             if (m.Rak[Hevostalli] > 0 && m.El[Hevonen][Naaras] > 0 && m.Työ[Tallimestari] > 0) RatsastusPäivä(peli);
         },
         [&] { Sopimustarjous(peli); },
-        [&] { n.LiikevaihtoNäkyvissä = m.Työ[Kirjanpitäjä] > 0; },
+        [&] {
+            // The turnover shows while an accountant is employed.
+            n.lukemat.liikevaihtoNäkyy = m.Työ[Kirjanpitäjä] > 0;
+            if (n.lukemat.liikevaihtoNäkyy) n.lukemat.liikevaihtoz = Suoraan(Str(Round(m.Liikevaihto)));
+        },
         [&] { if (m.Päivä > 30) Kuukaudenvaihde(peli); },
         // The bills of the step that ends a month fall into the new month.
         [&] { Päivitälukemat(peli); },

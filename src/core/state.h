@@ -46,7 +46,13 @@ struct EläimetRuutu {
     // order: Lehmä, Lammas, Sika, Kana, Kettu
     std::array<Integer, TEURASLAATIKOITA> Teuras{};
     // limits as texts, two a box, female first: LehmäRaja, SonniRaja, LammasRaja, PässiRaja, ...
-    std::array<std::string, 2 * TEURASLAATIKOITA> TeurasRaja{};
+    std::array<std::string, 2 * TEURASLAATIKOITA> TeurasRaja = NollaRajat();
+
+    static std::array<std::string, 2 * TEURASLAATIKOITA> NollaRajat() {
+        std::array<std::string, 2 * TEURASLAATIKOITA> rajat;
+        rajat.fill("0");
+        return rajat;
+    }
 };
 
 enum Vakuutus : std::size_t { VakuutusEläin, VakuutusPalo, VakuutusTyö, VakuutusVarkaus, VakuutusTarvike };

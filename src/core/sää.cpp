@@ -1,9 +1,19 @@
-// The weather of the day.
-// These steps keep their place in the day; their rules come with the subsystem.
+// The weather of the day, and the temperature display.
+// Keli keeps its place in the day; the day's weather walk comes with the weather rules.
 #include "sää.h"
+
+#include <algorithm>
+
+#include "laskenta.h"
 
 namespace tanhua {
 
 void Keli(Peli& /*peli*/) {}
+
+LämpötilaNäyttö AsteLuku(int t) {
+    auto osa = [](int x) { return std::clamp(x, 0, 255); };
+    if (t >= 0) return {"+" + Str(t) + " °c", osa(125 + 5 * t), osa(120 - 2 * t), osa(2 * t)};
+    return {Str(t) + " °c", osa(200 + 6 * t), osa(120 + 3 * t), osa(255 - 5 * t)};
+}
 
 }  // namespace tanhua

@@ -96,7 +96,16 @@ void Ajuri::Kutsu(const std::vector<std::string>& sanat) {
     if (n < it->second.vähintään || n > it->second.enintään)
         Virhe("wrong number of arguments for " + sanat[1]);
     // An operation with no handler of its own is caught here, as a window catches a click's failure.
-    Vartioitu(*peli_, "", {[&] { it->second.aja(*peli_, argumentit); }});
+    // A word the operation can't take (an unknown card, a lot of 7) is the script's fault, not the game's.
+    std::string skriptivirhe;
+    Vartioitu(*peli_, "", {[&] {
+        try {
+            it->second.aja(*peli_, argumentit);
+        } catch (const std::runtime_error& e) {
+            skriptivirhe = e.what();
+        }
+    }});
+    if (!skriptivirhe.empty()) Virhe(skriptivirhe);
     SuljeAvoinRaportti();
 }
 

@@ -8,8 +8,10 @@ void EläintenToiminnot(Toimintoluettelo& t) {
     t["EläintenKunto"] = Pelkkä(EläintenKunto);
     t["EläintenTuotanto"] = Pelkkä(EläintenTuotanto);
     t["Ruokinta"] = Pelkkä(Ruokinta);
+    t["Nälkäkuolemat"] = Pelkkä(Nälkäkuolemat);
     t["Vanhentuminen"] = Pelkkä(Vanhentuminen);
     t["Lisääntyminen"] = Pelkkä(Lisääntyminen);
+    t["TyhjennäSyönnit"] = Pelkkä(TyhjennäSyönnit);
 }
 
 }  // namespace tanhua

@@ -9,5 +9,7 @@ struct Peli;
 
 // Writes the farm as the situation of the given name.
 void TallennaTilanne(Peli& peli, const std::string& nimi);
+// Opens the situation of the given name into the farm record, under its own failure handler.
+void AvaaTilanne(Peli& peli, const std::string& nimi);
 
 }  // namespace tanhua

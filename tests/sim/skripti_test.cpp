@@ -54,7 +54,9 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"draws 0.5 1.0\n", "line 1: a draw must be a number in [0,1)"},
                             {"days kaksi\n", "line 1: N must be a whole number"},
                             {"call SeuraavaPäivä 3\n", "line 1: wrong number of arguments"},
-                            {"set Raha\n", "line 1: set takes NAME VALUE"}}) {
+                            {"set Raha\n", "line 1: set takes NAME VALUE"},
+                            {"new A Vapaa 1 on\ncall Eläimet.Osta Lehmus 1\n", "line 2: unknown animal card 'Lehmus'"},
+                            {"new A Vapaa 1 on\ncall Tuotteet.MyyKaikki Kulta\n", "line 2: unknown product 'Kulta'"}}) {
         const Ajo ajo = Aja(c.skripti);
         EXPECT_EQ(ajo.tila, 1) << c.skripti;
         EXPECT_NE(ajo.virheet.find(c.virhe), std::string::npos) << ajo.virheet;

@@ -1,0 +1,202 @@
+// Buying, selling and slaughter by hand: the refusals with their texts, and what a success changes.
+#include <gtest/gtest.h>
+
+#include "animals/kauppa.h"
+#include "tuki/testipeli.h"
+
+namespace tanhua {
+namespace {
+
+using testi::Testipeli;
+using Tapahtumat = std::vector<std::string>;
+
+// A farm with sound effects on, a barn for 50 and a store for 1000.
+struct Tila : Testipeli {
+    Tila() {
+        Aloita();
+        peli.asetukset.Äänitehosteet = true;
+        m.Koko_Navetta = 50;
+        m.Koko_Varasto = 1000;
+        m.Raha = 100000;
+        m.Var.fill(0);
+    }
+    // Chooses the card, sets the lot and presses the button, with the click's draw given.
+    void Paina(void (*painike)(Peli&), const char* kortti, Integer määrä) {
+        ValitseEläin(peli, KorttiNimellä(kortti));
+        while (peli.eläinruutu.määrä < määrä) määräplus(peli);
+        Tapahtumat();
+        peli.arvonta.Jonoon(0.5);  // klik2, when the press succeeds
+        painike(peli);
+    }
+};
+
+TEST(Buying, MoneyIsCheckedOnTheWholeLotAndExactMoneyIsEnough) {
+    struct Tapaus { Single raha; Integer määrä; bool ostetaan; const char* viesti; };
+    const Tapaus tapaukset[] = {
+        {5000, 1, true, nullptr},
+        {4999.5f, 1, false,
+         "VIESTI|0|Rahasi eivät riitä!\\n\\nRahatilanteesi on  4999.5\\nEläin maksaa  5000\\nSinulta puuttuu  .5|vastattu"},
+        {49000, 10, false,
+         "VIESTI|0|Rahasi eivät riitä!\\n\\nRahatilanteesi on  49000\\nEläimet maksaa  50000\\nSinulta puuttuu  "
+         "1000|vastattu"},
+    };
+    for (const Tapaus& c : tapaukset) {
+        Tila t;
+        t.m.Raha = c.raha;
+        t.Paina(Osta, "Lehmä", c.määrä);
+        if (c.ostetaan) {
+            EXPECT_EQ(t.m.Raha, 0);
+            EXPECT_EQ(t.m.El[Nauta][Naaras], c.määrä);
+            EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|klik2"});
+        } else {
+            EXPECT_EQ(t.m.Raha, c.raha);
+            EXPECT_EQ(t.m.El[Nauta][Naaras], 0);
+            EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"ÄÄNI|virhe", c.viesti}));
+        }
+    }
+}
+
+TEST(Buying, OnlyAdultsTakeRoomInTheBarn) {
+    struct Tapaus { int aikuisia, nuoria; Integer määrä; bool ostetaan; };
+    for (const Tapaus& c : {Tapaus{40, 30, 10, true}, {41, 0, 10, false}, {49, 5, 1, true}, {50, 0, 1, false}}) {
+        Tila t;
+        t.m.El[Lammas][Uros] = c.aikuisia;
+        t.m.El[Kana][Poikanen] = c.nuoria;
+        t.Paina(Osta, "Kana", c.määrä);
+        EXPECT_EQ(t.m.El[Kana][Naaras], c.ostetaan ? c.määrä : 0) << c.aikuisia << " + " << c.määrä;
+        if (!c.ostetaan) {
+            EXPECT_EQ(t.Tapahtumat(),
+                      (Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|Sinulla ei ole tilaa navetassasi.|vastattu"}));
+        }
+    }
+}
+
+TEST(Buying, PastAnOrdersLimitOpensItsPanelWithTheBoxMarkedUntilTheScreenIsLeft) {
+    Tila t;
+    t.m.Eläimet.Teuras = {1, 0, 0, 0, 1};
+    t.m.Eläimet.TeurasRaja = {"5", "1", "0", "0", "0", "0", "0", "0", "0", "3"};
+    t.m.El[Nauta][Naaras] = 4;
+    const EläinRuutuTila& r = t.peli.eläinruutu;
+    t.Paina(Osta, "Lehmä", 1);  // 5 cows: not above the limit
+    EXPECT_FALSE(r.teurasAuki);
+    t.Paina(Osta, "Lehmä", 1);  // 6 cows
+    EXPECT_TRUE(r.teurasAuki);
+    EXPECT_EQ(r.laatikonVäri[0], YlitettyRajaVäri());
+    EXPECT_EQ(YlitettyRajaVäri(), 180u + (100u << 8) + (100u << 16));
+    EXPECT_FALSE(r.nylkyAuki);
+    t.Paina(Osta, "Uros Kettu", 1);  // 1 male fox, limit 3
+    EXPECT_FALSE(r.nylkyAuki);
+    t.Paina(Osta, "Pässi", 10);  // sheep have no order on
+    EXPECT_EQ(r.laatikonVäri[1], 0u);
+    Takaisin(t.peli);
+    EXPECT_FALSE(r.teurasAuki);
+    EXPECT_EQ(r.laatikonVäri[0], 0u);
+}
+
+TEST(Selling, ALotLargerThanTheHerdIsRefused) {
+    Tila t;
+    t.m.El[Sika][Naaras] = 9;
+    t.m.Liikevaihto = 0;
+    t.Paina(Myy, "Emakko", 10);
+    EXPECT_EQ(t.Tapahtumat(),
+              (Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|Tarkasta eläinten määrä!\\n\\nOlet myymässä  10 eläintä\\n|vastattu"}));
+    EXPECT_EQ(t.m.Raha, 100000);
+    t.m.El[Sika][Naaras] = 10;
+    t.Paina(Myy, "Emakko", 10);
+    EXPECT_EQ(t.m.Raha, 110000);
+    EXPECT_EQ(t.m.El[Sika][Naaras], 0);
+    EXPECT_EQ(t.m.Liikevaihto, 0);
+    EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|klik2"});
+}
+
+TEST(SlaughterByHand, TheStoreMayFillExactlyButNotOneUnitMore) {
+    struct Tapaus { Single liha; bool teurastetaan; };
+    for (const Tapaus& c : {Tapaus{90, true}, {90.5f, false}}) {
+        Tila t;
+        t.m.Var[Liha] = c.liha;
+        t.m.Var[Muna] = 20;     // half weight: 10
+        t.m.Var[Rehu] = 5000;   // feed is not in the store
+        t.m.El[Nauta][Naaras] = 10;
+        t.Paina(Teurasta, "Lehmä", 10);
+        if (c.teurastetaan) {
+            EXPECT_EQ(t.m.Var[Liha], 990);
+            EXPECT_EQ(t.m.El[Nauta][Naaras], 0);
+        } else {
+            EXPECT_EQ(t.m.El[Nauta][Naaras], 10);
+            EXPECT_EQ(t.Tapahtumat(),
+                      (Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|Sinulla ei ole tilaa varastossa.\\nVaraston koko :  1000"
+                                                "Varastossa tavaraa :  100.5Tilankäyttö ylittyy :  .5|vastattu"}));
+        }
+    }
+}
+
+TEST(SlaughterByHand, MeatFursAndTheStaffsShare) {
+    struct Tapaus {
+        const char* kortti; Integer määrä; int teurastajia, nahkureita;
+        Single liha, turkki, raha; const char* info;
+    };
+    const Tapaus tapaukset[] = {
+        {"Lehmä", 10, 0, 0, 900, 0, 100000, nullptr},
+        {"Lehmä", 10, 1, 0, 900 + 360, 0, 100000, nullptr},
+        {"Lehmä", 10, 3, 0, 900 + 360, 0, 100000, nullptr},     // the number of butchers doesn't matter
+        {"Kukko", 1, 1, 0, 12 + 5, 0, 100000, nullptr},          // 4.8 rounds up
+        {"Pässi", 1, 1, 0, 45 + 18, 0, 100000, nullptr},
+        {"Kettu", 10, 1, 0, 0, 10, 100000, nullptr},             // no tanner: a fur a fox, free
+        {"Uros Kettu", 1, 0, 2, 0, 2, 99500, "Nahkuri veloitti sinua nylkemisestä 500 / kettu"},
+        {"Kettu", 10, 0, 1, 0, 20, 95000, "Nahkuri veloitti sinua nylkemisestä 500 / kettu"},
+    };
+    for (const Tapaus& c : tapaukset) {
+        Tila t;
+        for (auto& laji : t.m.El) laji = {10, 0, 0, 10};
+        t.m.Työ[Teurastaja] = c.teurastajia;
+        t.m.Työ[Nahkuri] = c.nahkureita;
+        t.Paina(Teurasta, c.kortti, c.määrä);
+        EXPECT_EQ(t.m.Var[Liha], c.liha) << c.kortti;
+        EXPECT_EQ(t.m.Var[Turkki], c.turkki) << c.kortti;
+        EXPECT_EQ(t.m.Raha, c.raha) << c.kortti;
+        EXPECT_EQ(KortinPäät(t.m, KorttiNimellä(c.kortti)), 10 - c.määrä) << c.kortti;
+        if (c.info) {
+            EXPECT_EQ(t.peli.eläinruutu.info, c.info);
+        }
+        EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|klik2"}) << c.kortti;
+    }
+}
+
+TEST(SlaughterByHand, TooFewHeadsAndHorses) {
+    const std::string liianVähän =
+        "VIESTI|0|Tarkasta eläinten määrä!\\n\\nEt voi teurastaa enempää eläimiä, kuin sinulla on\\n|vastattu";
+    struct Tapaus { const char* kortti; Long päät; Tapahtumat odotetut; };
+    const Tapaus tapaukset[] = {
+        {"Karju", 9, {"ÄÄNI|virhe", liianVähän}},
+        {"Kettu", 9, {}},  // too few foxes: nothing at all
+        {"Tamma", 1, {"ÄÄNI|virhe", "VIESTI|0|Hevosia ei oteta vastaan teurastamolla.|vastattu"}},
+        {"Ori", 0, {}},
+    };
+    for (const Tapaus& c : tapaukset) {
+        Tila t;
+        t.m.Työ[Teurastaja] = 1;
+        t.m.Työ[Nahkuri] = 1;
+        Long& päät = KortinPäät(t.m, KorttiNimellä(c.kortti));
+        päät = c.päät;
+        t.Paina(Teurasta, c.kortti, 10);
+        EXPECT_EQ(t.Tapahtumat(), c.odotetut) << c.kortti;
+        EXPECT_EQ(päät, c.päät);
+        EXPECT_EQ(t.m.Var[Liha], 0);
+        EXPECT_EQ(t.m.Var[Turkki], 0);
+        EXPECT_EQ(t.m.Raha, 100000);
+        t.peli.arvonta.TyhjennäJono();
+    }
+}
+
+TEST(SlaughterByHand, TheStallionsShownMeatCountsInTheStoreTest) {
+    Tila t;
+    t.m.Var[Liha] = 950;
+    t.m.El[Hevonen][Uros] = 0;
+    t.Paina(Teurasta, "Ori", 1);
+    const Tapahtumat e = t.Tapahtumat();
+    ASSERT_EQ(e.size(), 2u);
+    EXPECT_EQ(e[1].rfind("VIESTI|0|Sinulla ei ole tilaa varastossa.", 0), 0u) << e[1];
+}
+
+}  // namespace
+}  // namespace tanhua

@@ -1,0 +1,121 @@
+// The cards of the animal screen: choosing, the lot and its totals, the info texts, the limits.
+#include <gtest/gtest.h>
+
+#include "animals/kauppa.h"
+#include "tuki/testipeli.h"
+
+namespace tanhua {
+namespace {
+
+using testi::Testipeli;
+using Tapahtumat = std::vector<std::string>;
+
+TEST(AnimalCards, EachCardShowsItsPricesMeatAndInfo) {
+    struct Tapaus { const char* nimi; const char* otsikko; int osto, myynti, liha; const char* info; };
+    const Tapaus tapaukset[] = {
+        {"Lehmä", "Lehmä", 5000, 4000, 90,
+         "Tuottaa maitoa noin 10 litraa/päivä, sivutuotteena lantaa. Teurastaessa lihaa 90 kg. Rehunkulutus noin "
+         "5 kg/päivä. Jatkojalostaessa meijerissä tuottaa juustoa. Lisääntyy harvoin."},
+        {"Pässi", "Pässi", 3000, 2000, 45,
+         "Tuottaa villaa noin 1 kg/päivä, sivutuotteena vähän lantaa. Tuottaa teurastaessa lihaa 45. Rehunkulutus "
+         "noin 3 kg/päivä. Mahdollistaa lisääntymisen lampaan kanssa."},
+        {"Sika", "Emakko", 3000, 1000, 70, nullptr},
+        {"Kukko", "Kukko", 500, 300, 12, nullptr},
+        {"KettuUros", "Uros Kettu", 3000, 1000, 0,
+         "Urospuolinen kettu tuottaa turkiksia teurastaessa. Turkisten tuloon vaikuttaa nahkuri. Kettu kuluttaa "
+         "rehua noin 2 kg/päivä. Mahdollistaa lisääntymisen naaraskettujen kanssa."},
+        {"Tamma", "Tamma", 7000, 6000, 0, nullptr},
+        {"Ori", "Ori", 7000, 6000, 80, nullptr},
+    };
+    for (const Tapaus& c : tapaukset) {
+        Testipeli t;
+        t.Aloita();
+        const int kortti = KorttiNimellä(c.nimi);
+        ASSERT_GE(kortti, 0) << c.nimi;
+        EXPECT_EQ(KorttiNimellä(c.otsikko), kortti);
+        ValitseEläin(t.peli, kortti);
+        const EläinRuutuTila& r = t.peli.eläinruutu;
+        EXPECT_EQ(r.otsikko, c.otsikko);
+        EXPECT_EQ(r.liha, c.liha) << c.nimi;
+        EXPECT_EQ(r.yhtosto, c.osto) << c.nimi;
+        EXPECT_EQ(r.yhtmyynti, c.myynti) << c.nimi;
+        if (c.info) {
+            EXPECT_EQ(r.info, c.info);
+        }
+    }
+    EXPECT_EQ(KorttiNimellä("Hevonen"), -1);
+}
+
+TEST(AnimalCards, TheCardQuotesTheFarmsOwnMeatFigure) {
+    Testipeli t;
+    t.Aloita();
+    t.m.Lihaa[Kana][0] = 11;
+    ValitseEläin(t.peli, KorttiNimellä("Kana"));
+    EXPECT_EQ(t.peli.eläinruutu.liha, 11);
+    EXPECT_NE(t.peli.eläinruutu.info.find("Teurastaessa lihaa 11 kg."), std::string::npos);
+}
+
+TEST(AnimalCards, TheLotStepsBetweenOneTenAndHundred) {
+    Testipeli t;
+    t.Aloita();
+    t.peli.asetukset.Äänitehosteet = true;
+    ValitseEläin(t.peli, KorttiNimellä("Sonni"));
+    EläinRuutuTila& r = t.peli.eläinruutu;
+    struct Askel { void (*painike)(Peli&); int määrä; long yhtosto, yhtmyynti; };
+    const Askel askeleet[] = {{määräplus, 10, 50000, 40000},  {määräplus, 100, 500000, 400000},
+                              {määräplus, 100, 500000, 400000}, {määrämiinus, 10, 50000, 40000},
+                              {määrämiinus, 1, 5000, 4000},     {määrämiinus, 1, 5000, 4000}};
+    for (const Askel& a : askeleet) {
+        a.painike(t.peli);
+        EXPECT_EQ(r.määrä, a.määrä);
+        EXPECT_EQ(r.yhtosto, a.yhtosto);
+        EXPECT_EQ(r.yhtmyynti, a.yhtmyynti);
+    }
+    // Choosing another card keeps the lot.
+    määräplus(t.peli);
+    ValitseEläin(t.peli, KorttiNimellä("Kana"));
+    EXPECT_EQ(r.yhtosto, 5000);
+    const Tapahtumat äänet = t.Tapahtumat();
+    EXPECT_EQ(äänet.size(), 9u);
+    for (const std::string& e : äänet) EXPECT_EQ(e, "ÄÄNI|siirto");
+}
+
+TEST(SlaughterLimits, ATypedLimitBecomesAWholeNumberNotBelowZero) {
+    Testipeli t;
+    t.Aloita();
+    const std::pair<const char*, const char*> tapaukset[] = {
+        {"12.7", "12"}, {"-3", "0"}, {"-0.5", "0"}, {"abc", "0"}, {"", "0"}, {"3abc", "3"}, {" 40", "40"},
+        {"1e3", "1000"}};
+    const int raja = TeurasRajaNimellä("Sonni");
+    ASSERT_EQ(raja, 1);
+    for (const auto& [kirjoitettu, tulos] : tapaukset) {
+        TeurasRajaMuuttui(t.peli, raja, kirjoitettu);
+        EXPECT_EQ(t.m.Eläimet.TeurasRaja[1], tulos) << kirjoitettu;
+    }
+    EXPECT_EQ(TeurasRajaNimellä("TeurasKettuUrosRaja"), 9);
+    EXPECT_EQ(TeurasRajaNimellä("Ori"), -1);
+}
+
+TEST(AnimalScreen, HintsAndLabelsFollowThePointer) {
+    Testipeli t;
+    t.Aloita();
+    t.m.OhjeetPäällä = true;
+    AvaaEläimet(t.peli);
+    EläinRuutuTila& r = t.peli.eläinruutu;
+    EXPECT_EQ(r.ohje, "Tervetuloa ostamaan eläimiä.");
+    EXPECT_EQ(r.aihe, "Eläimet :");
+    OsoitinEläinruudulla(t.peli, EläinKohde::Kuva, KorttiNimellä("Sonni"));
+    EXPECT_EQ(r.aihe, "Eläimet : Sonni");
+    EXPECT_EQ(r.ohje.substr(0, 30), "Sonni on kallis ostos ja sen t");
+    OsoitinEläinruudulla(t.peli, EläinKohde::Kuva, KorttiNimellä("Kettu"));
+    EXPECT_EQ(r.aihe, "Eläimet : Naaraskettu");
+    EXPECT_EQ(r.kohdistin, KorttiNimellä("Kettu"));
+    OsoitinEläinruudulla(t.peli, EläinKohde::Laskuri, KorttiNimellä("KettuUros"));
+    EXPECT_EQ(r.aihe, "Eläimet : Uros kettu");
+    OsoitinEläinruudulla(t.peli, EläinKohde::Ruutu);
+    EXPECT_EQ(r.aihe, "Eläimet :");
+    EXPECT_EQ(r.kohdistin, -1);
+}
+
+}  // namespace
+}  // namespace tanhua

@@ -1,0 +1,297 @@
+// The market's monthly step, the first walk of a new farm and the bank's market report.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "market/markkinat.h"
+#include "market/taulut/pörssi.h"
+#include "tuki/testipeli.h"
+
+namespace tanhua {
+namespace {
+
+// Queues the 24 draws of a month's walk: each index keeps its value unless a draw is given for it.
+void JonoonKävely(testi::Testipeli& t, const std::map<Tuote, double>& tuotteet = {},
+                  const std::map<Maa, double>& maat = {}) {
+    for (Tuote k : KÄVELYJÄRJESTYS) {
+        const auto it = tuotteet.find(k);
+        t.peli.arvonta.Jonoon(it != tuotteet.end() ? it->second
+                                                   : static_cast<double>(PÖRSSITAULU[k].k) / PÖRSSITAULU[k].n);
+    }
+    for (Maa maa : MAAJÄRJESTYS) {
+        const auto it = maat.find(maa);
+        t.peli.arvonta.Jonoon(it != maat.end() ? it->second
+                                               : static_cast<double>(MAAPÖRSSI[maa].k) / MAAPÖRSSI[maa].n);
+    }
+}
+
+struct Markkinapeli : ::testing::Test {
+    void SetUp() override {
+        t.Aloita();
+        t.m.Kurssi.fill(0);
+        t.m.MaaKurssi.fill(0);
+        t.m.Var.fill(0);
+        t.m.Vuosi = 1984;
+        t.peli.arvonta.TyhjennäJono();
+        t.Tapahtumat();
+    }
+    testi::Testipeli t;
+};
+
+TEST_F(Markkinapeli, WalkRoundsToEvenWithOneDrawForEachIndexInOrder) {
+    t.m.Kurssi[Liha] = 2;
+    t.m.Kurssi[Villa] = 1;
+    t.m.MaaKurssi[MaaMetsä] = 100;
+    JonoonKävely(t, {{Maito, 0.5}, {Liha, 0.5}, {Villa, 0.5}, {Turkki, 0.0}, {Vaate, 0.5}, {Leipä, 0.75}, {Hunaja, 0.99}},
+                 {{MaaPelto, 0.75}, {MaaMetsä, 0.25}, {MaaLaidun, 0.0}});
+    Markkinat(t.peli);
+    struct Tapaus { Tuote k; int odotettu; };
+    for (const Tapaus& c : {Tapaus{Maito, 0},     // 1.5 - 1 = 0.5 -> 0
+                            Tapaus{Liha, 2},      // 2 + 2.5 - 2 = 2.5 -> 2
+                            Tapaus{Villa, 2},     // 1 + 2.5 - 2 = 1.5 -> 2
+                            Tapaus{Turkki, -19},  // the lowest step of furs
+                            Tapaus{Vaate, 0},     // 6.5 - 6 = 0.5 -> 0
+                            Tapaus{Leipä, 3},     // 8.25 - 5 -> 3
+                            Tapaus{Hunaja, 3}})   // 4.95 - 2 -> 3
+        EXPECT_EQ(t.m.Kurssi[c.k], c.odotettu) << TUOTETAULU[c.k].avain;
+    EXPECT_EQ(t.m.MaaKurssi[MaaPelto], 250);
+    EXPECT_EQ(t.m.MaaKurssi[MaaMetsä], -150);
+    EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], 0);
+    EXPECT_EQ(t.m.MaaKurssi[MaaLaidun], -250);
+    EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
+    EXPECT_TRUE(t.Tapahtumat().empty());
+}
+
+TEST_F(Markkinapeli, AnIndexAboveItsLimitCrashesToZero) {
+    struct Tapaus { Tuote k; int ennen; int jälkeen; };
+    for (const Tapaus& c : {Tapaus{Maito, 5, 5}, Tapaus{Maito, 6, 0}, Tapaus{Liha, 8, 8}, Tapaus{Liha, 9, 0},
+                            Tapaus{Turkki, 150, 150}, Tapaus{Turkki, 151, 0}, Tapaus{Lauta, 25, 25},
+                            Tapaus{Lauta, 26, 0}, Tapaus{Juusto, 14, 0}, Tapaus{Vaate, 20, 20},
+                            Tapaus{Vaate, 21, 0}, Tapaus{Hunaja, 11, 0}, Tapaus{Viini, 13, 13}}) {
+        t.m.Kurssi.fill(0);
+        t.m.Kurssi[c.k] = static_cast<Integer>(c.ennen);
+        JonoonKävely(t);
+        Markkinat(t.peli);
+        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.ennen;
+    }
+    struct MaaTapaus { Maa maa; long ennen; long jälkeen; };
+    for (const MaaTapaus& c : {MaaTapaus{MaaPelto, 5000, 5000}, MaaTapaus{MaaPelto, 5001, 0},
+                               MaaTapaus{MaaJoutomaa, 2500, 2500}, MaaTapaus{MaaJoutomaa, 2501, 0},
+                               MaaTapaus{MaaLaidun, 4001, 0}}) {
+        t.m.MaaKurssi.fill(0);
+        t.m.MaaKurssi[c.maa] = c.ennen;
+        JonoonKävely(t);
+        Markkinat(t.peli);
+        EXPECT_EQ(t.m.MaaKurssi[c.maa], c.jälkeen) << MAATAULU[c.maa].avain << " " << c.ennen;
+    }
+    // Nothing was held, so nothing was told.
+    EXPECT_TRUE(t.Tapahtumat().empty());
+}
+
+TEST_F(Markkinapeli, FeedIsHeldDownBefore1983AndCrashesSilentlyAfter) {
+    struct Tapaus { int vuosi; int ennen; int jälkeen; };
+    for (const Tapaus& c : {Tapaus{1982, 3, 3}, Tapaus{1982, 4, 3}, Tapaus{1982, 9, 3}, Tapaus{1983, 4, 4},
+                            Tapaus{1983, 5, 5}, Tapaus{1983, 6, 0}}) {
+        t.m.Vuosi = static_cast<Integer>(c.vuosi);
+        t.m.Var[Rehu] = 5000;
+        t.m.Kurssi[Rehu] = static_cast<Integer>(c.ennen);
+        JonoonKävely(t);
+        Markkinat(t.peli);
+        EXPECT_EQ(t.m.Kurssi[Rehu], c.jälkeen) << c.vuosi << " " << c.ennen;
+        EXPECT_TRUE(t.Tapahtumat().empty()) << "feed never makes the news";
+        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
+    }
+}
+
+TEST_F(Markkinapeli, TheLastCrashInTheCheckOrderNamesTheNews) {
+    struct Tapaus {
+        std::map<Tuote, int> kurssit;
+        std::map<Tuote, float> varastot;
+        float laidun;
+        std::map<Maa, long> maakurssit;
+        std::string sana;
+    };
+    const std::vector<Tapaus> tapaukset{
+        // Milk held, meat not: meat still names the news.
+        {{{Maito, 6}, {Liha, 9}}, {{Maito, 10}}, 0, {}, "Lihan"},
+        // Cheese is checked after manure although it walks before it.
+        {{{Juusto, 14}, {Lanta, 6}}, {{Lanta, 1}}, 0, {}, "Juuston"},
+        // A feed crash overwrites the word although it marks nothing.
+        {{{Turkki, 151}, {Rehu, 6}}, {{Turkki, 1}}, 0, {}, "Rehun"},
+        // Land comes last; pasture held.
+        {{{Maito, 6}}, {}, 2, {{MaaLaidun, 4001}}, "Laidunmaan"},
+    };
+    for (const Tapaus& c : tapaukset) {
+        t.m.Kurssi.fill(0);
+        t.m.MaaKurssi.fill(0);
+        t.m.Var.fill(0);
+        t.m.Laidun = c.laidun;
+        for (auto [k, v] : c.kurssit) t.m.Kurssi[k] = static_cast<Integer>(v);
+        for (auto [k, v] : c.varastot) t.m.Var[k] = v;
+        for (auto [maa, v] : c.maakurssit) t.m.MaaKurssi[maa] = v;
+        JonoonKävely(t);
+        t.peli.arvonta.Jonoon(0.1);  // story 1
+        Markkinat(t.peli);
+        const std::vector<std::string> odotettu{
+            "LISTA|" + c.sana + " kurssi romahti!",
+            "IKKUNA|Kuvat/sattumat/lehti.jpg|Pörssiromahdus! " + c.sana +
+                " hinta romahti kerralla alas. Onko maaseudun tulevaisuus vaakalaudalla tuotannon suhteen?"};
+        EXPECT_EQ(t.Tapahtumat(), odotettu) << c.sana;
+        for (auto [k, v] : c.kurssit) EXPECT_EQ(t.m.Kurssi[k], 0) << TUOTETAULU[k].avain;
+    }
+}
+
+TEST_F(Markkinapeli, TheStoryDrawPicksOneOfFive) {
+    struct Tapaus { double r; std::string tarina; };
+    for (const Tapaus& c :
+         {Tapaus{0.0, "Pörssiromahdus! Maidon hinta romahti kerralla alas. Onko maaseudun tulevaisuus vaakalaudalla "
+                      "tuotannon suhteen?"},
+          Tapaus{0.2, "Maidon hinta romahti alas. Tämä oli jo ennalta odotettua liian korkean hinnan suhteen "
+                      "arvioivat asiantuntijat."},
+          Tapaus{0.59, "Maidon kurssi romahti kerralla alas. Suuren hinnan jälkeen inflaatio nakersi Maidon hinnan "
+                       "suureen alamäkeen."},
+          Tapaus{0.6, "Kurssit laskivat roimasti. Maidon hinta teki tänään roiman laskun pörssissä. Maatalous "
+                      "saattaa kärsiä tästä, mutta ostajat ovat tyytyväisiä."},
+          Tapaus{0.99, "Suuri kurssiromahdus tänään. Maidon kurssi tipahti alas tänään iltapäivällä. "
+                       "Maatilanyrittäjät ovat huolissaan tulevaisuudestaan."}}) {
+        t.m.Kurssi[Maito] = 6;
+        t.m.Var[Maito] = 0.5f;
+        JonoonKävely(t);
+        t.peli.arvonta.Jonoon(c.r);
+        Markkinat(t.peli);
+        const auto tapahtumat = t.Tapahtumat();
+        ASSERT_EQ(tapahtumat.size(), 2u);
+        EXPECT_EQ(tapahtumat[1], "IKKUNA|Kuvat/sattumat/lehti.jpg|" + c.tarina) << c.r;
+        EXPECT_EQ(t.peli.näkymä.IkkunaTeksti, c.tarina);
+    }
+}
+
+TEST_F(Markkinapeli, ACrashOfWhatIsNotHeldDrawsNoStory) {
+    t.m.Kurssi[Maito] = 6;
+    t.m.Kurssi[Liha] = 9;
+    t.m.Var[Villa] = 100;  // held, but wool doesn't crash
+    JonoonKävely(t);
+    t.peli.arvonta.Jonoon(0.5);
+    Markkinat(t.peli);
+    EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);
+    EXPECT_TRUE(t.Tapahtumat().empty());
+    EXPECT_EQ(t.m.Kurssi[Maito], 0);
+    EXPECT_EQ(t.m.Kurssi[Liha], 0);
+}
+
+TEST(Markkinat, LowerBoundsSendAnIndexBackToZeroOrFeedToOne) {
+    testi::Testipeli t;
+    t.Aloita("Testi", 2);  // the hardest level: manure's base price 1, feed's 5, waste land's 7000
+    ASSERT_EQ(t.m.PerusHinta[Lanta], 1);
+    ASSERT_EQ(t.m.PerusHinta[Rehu], 5);
+    ASSERT_EQ(t.m.PerusMaa[MaaJoutomaa], 7000);
+    t.m.Var.fill(0);
+    struct Tapaus { Tuote k; int ennen; int jälkeen; };
+    for (const Tapaus& c : {Tapaus{Lanta, -2, 0}, Tapaus{Lanta, -1, -1}, Tapaus{Turkki, -100, -100},
+                            Tapaus{Turkki, -101, 0}, Tapaus{Vaate, -20, -20}, Tapaus{Vaate, -21, 0},
+                            Tapaus{Leipä, -11, 0}, Tapaus{Makkara, -7, 0}, Tapaus{Makkara, -6, -6},
+                            Tapaus{Leivos, -8, 0}, Tapaus{Rehu, -4, -4}, Tapaus{Rehu, -5, 1}, Tapaus{Rehu, -9, 1},
+                            Tapaus{Maito, -4, 0}, Tapaus{Maito, -3, -3}}) {
+        t.m.Kurssi.fill(0);
+        t.m.Kurssi[c.k] = static_cast<Integer>(c.ennen);
+        t.peli.arvonta.TyhjennäJono();
+        JonoonKävely(t);
+        Markkinat(t.peli);
+        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.ennen;
+    }
+    struct MaaTapaus { Maa maa; long ennen; long jälkeen; };
+    for (const MaaTapaus& c : {MaaTapaus{MaaJoutomaa, -3001, 0}, MaaTapaus{MaaJoutomaa, -3000, -3000},
+                               MaaTapaus{MaaPelto, -6001, 0}, MaaTapaus{MaaPelto, -6000, -6000},
+                               MaaTapaus{MaaLaidun, -4001, 0}}) {
+        t.m.MaaKurssi.fill(0);
+        t.m.MaaKurssi[c.maa] = c.ennen;
+        JonoonKävely(t);
+        Markkinat(t.peli);
+        EXPECT_EQ(t.m.MaaKurssi[c.maa], c.jälkeen) << MAATAULU[c.maa].avain << " " << c.ennen;
+    }
+}
+
+TEST(Markkinat, FirstWalkStartsFromZeroWithWiderStepsAndLeavesPastureOut) {
+    testi::Testipeli t;
+    t.Aloita();
+    t.m.Kurssi.fill(50);
+    t.m.MaaKurssi.fill(900);
+    for (int i = 0; i < 24; ++i) t.peli.arvonta.Jonoon(0.8);
+    EnsimmäinenKurssi(t.peli);
+    EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u) << "23 draws: pasture land takes none";
+    struct Tapaus { Tuote k; int odotettu; };
+    for (const Tapaus& c : {Tapaus{Maito, 1}, Tapaus{Liha, 2}, Tapaus{Turkki, 16}, Tapaus{Vaate, 7},
+                            Tapaus{Leivos, 3}, Tapaus{Leipä, 4}, Tapaus{Jauho, 3}, Tapaus{Makkara, 4}})
+        EXPECT_EQ(t.m.Kurssi[c.k], c.odotettu) << TUOTETAULU[c.k].avain;
+    EXPECT_EQ(t.m.MaaKurssi[MaaPelto], 300);
+    EXPECT_EQ(t.m.MaaKurssi[MaaMetsä], 300);
+    EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], 150);
+    EXPECT_EQ(t.m.MaaKurssi[MaaLaidun], 0);
+}
+
+TEST(Markkinat, FirstWalkTakesItsDrawsInTheWalkOrder) {
+    testi::Testipeli t;
+    t.Aloita();
+    // Only the fur's draw (the fifth) is high; the others are the lowest.
+    for (int i = 0; i < 23; ++i) t.peli.arvonta.Jonoon(i == 4 ? 0.98 : 0.0);
+    EnsimmäinenKurssi(t.peli);
+    EXPECT_EQ(t.m.Kurssi[Turkki], 25);  // 49 - 24
+    EXPECT_EQ(t.m.Kurssi[Muna], -1);
+    EXPECT_EQ(t.m.Kurssi[Vaate], -9);
+    EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], -250);
+}
+
+TEST(PörssiRaportti, PrintsTheIndicesTheAverageAndTheOutlook) {
+    testi::Testipeli t;
+    t.Aloita();
+    t.m.Kurssi.fill(0);
+    t.m.Päivä = 14;
+    t.m.Kuukausi = 3;
+    t.m.Vuosi = 1982;
+    t.m.Kurssi[Muna] = -1;
+    t.m.Kurssi[Turkki] = 120;
+    t.m.Kurssi[Lanta] = 4;
+    t.m.Kurssi[Hunaja] = 9;  // no line of its own, but in the average
+    t.Tapahtumat();
+    PörssiRaportti(t.peli);
+    const auto tapahtumat = t.Tapahtumat();
+    ASSERT_EQ(tapahtumat.size(), 1u + 18 + 3);
+    EXPECT_EQ(tapahtumat[0], "RAPORTTI| Pörssikurssit : 14. 3. 1982");
+    EXPECT_EQ(tapahtumat[1], "RIVI|0,0,0|5|         Maito     :  0");
+    EXPECT_EQ(tapahtumat[4], "RIVI|0,0,0|5|         Kananmuna : -1");
+    EXPECT_EQ(tapahtumat[5], "RIVI|0,0,0|5|         Turkikset :  120");
+    EXPECT_EQ(tapahtumat[7], "RIVI|0,0,0|5|         Raakapuu  :  0");
+    EXPECT_EQ(tapahtumat[13], "RIVI|0,0,0|5|         Lannoite  :  4");
+    EXPECT_EQ(tapahtumat[18], "RIVI|0,0,0|5|         Viini     :  0");
+    EXPECT_EQ(tapahtumat[19], "RIVI|0,0,0|5|         ");
+    // (120 + 4 + 9 - 1) / 19 = 6.9 -> 6
+    EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|5|         Keskiarvo :  6");
+    EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|5|         Yleinen talousnäkymä : Neutraali");
+    ASSERT_EQ(t.kanavat.raportit.size(), 1u);
+    EXPECT_EQ(t.kanavat.raportit[0].fonttikoko, 10);
+    EXPECT_TRUE(t.peli.näkymä.RaporttiAuki);
+    EXPECT_FALSE(t.peli.näkymä.PankkiKäytössä);
+}
+
+TEST(PörssiRaportti, OutlookByTheAverageOverNineteen) {
+    struct Tapaus { int summa; std::string keskiarvo; std::string näkymä; };
+    for (const Tapaus& c : {Tapaus{17 * 19, " 17", "Huippukausi!"}, Tapaus{16 * 19 + 18, " 16", "Nousukausi"},
+                            Tapaus{9 * 19, " 9", "Nousukausi"}, Tapaus{8 * 19 + 18, " 8", "Neutraali"},
+                            Tapaus{6 * 19, " 6", "Neutraali"}, Tapaus{5 * 19 + 18, " 5", "Laskusuhdanne"},
+                            Tapaus{19, " 1", "Laskusuhdanne"}, Tapaus{18, " 0", "Lama!"},
+                            Tapaus{-1, "-1", "Lama!"}}) {
+        testi::Testipeli t;
+        t.Aloita();
+        t.m.Kurssi.fill(0);
+        t.m.Kurssi[Leipä] = static_cast<Integer>(c.summa);  // bread has no line, but counts
+        t.Tapahtumat();
+        PörssiRaportti(t.peli);
+        const auto tapahtumat = t.Tapahtumat();
+        ASSERT_EQ(tapahtumat.size(), 22u);
+        EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|5|         Keskiarvo : " + c.keskiarvo) << c.summa;
+        EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|5|         Yleinen talousnäkymä : " + c.näkymä) << c.summa;
+    }
+}
+
+}  // namespace
+}  // namespace tanhua
