@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= 2
 
-.PHONY: all deps configure build run test contact-sheet clean
+.PHONY: all deps configure build run demo screenshots benchmark test contact-sheet clean
 
 all: build
 
@@ -16,7 +16,16 @@ build: configure
 	@cmake --build $(BUILD) -j$(JOBS)
 
 run: build
+	@$(BUILD)/src/ui/tanhua
+
+demo: build
 	@$(BUILD)/src/sim/tanhua-sim --data-dir $(BUILD)/esittely-data scripts/esittely.tanhua
+
+screenshots: build
+	@$(BUILD)/src/ui/tanhua --screenshots $(BUILD)/screenshots
+
+benchmark: build
+	@$(BUILD)/src/ui/tanhua --benchmark
 
 test: build
 	@cd $(BUILD) && ctest --output-on-failure -j$(JOBS)

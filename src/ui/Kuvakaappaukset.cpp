@@ -1,0 +1,203 @@
+// Screenshots of every screen and dialog in a realistic state, and the timing of a day's press.
+#include "Kuvakaappaukset.h"
+
+// own
+#include "Eläimet.h"
+#include "Pääikkuna.h"
+#include "QtKanavat.h"
+#include "Tuotteet.h"
+#include "animals/kauppa.h"
+#include "core/kuukausi.h"
+#include "core/päivä.h"
+#include "market/markkinat.h"
+#include "market/myynti.h"
+#include "storage/tiedostot.h"
+// Qt
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QTemporaryDir>
+// std
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace tanhua::ui {
+
+namespace {
+// The window's channels, but every question is answered at once as a player pressing the
+// default would, so that the run needs nobody at the keyboard.
+class Automaatti : public QtKanavat {
+public:
+    using QtKanavat::QtKanavat;
+    std::string Kysy(const std::string&, int tyyli) override { return tyyli == 1 ? EI : VASTATTU; }
+    void Laatikko(const std::string&) override {}
+    std::string Kehote(const std::string&, const std::string& oletus) override { return oletus; }
+    bool Vikalaatikko(const std::string&, int, const std::string&) override { return true; }
+    void Ääni(const std::string&) override {}
+    bool ÄäniLaite() override { return true; }
+};
+
+struct Näyttämö {
+    explicit Näyttämö(const Kansiot& alku) : kansiot{alku.ohjelma, std::filesystem::path(väliaikainen.path().toStdString()) / "Data"},
+                                               kanavat(kansiot.ohjelma), peli(kanavat, kansiot), ikkuna(peli) {
+        AlustaDatakansio(kansiot);
+        kanavat.Liitä(&ikkuna);
+        ikkuna.lopetus = [] {};
+        ikkuna.resize(1024, 768);
+        ikkuna.show();
+        ikkuna.Käynnistä();
+    }
+    void Odota() {
+        for (int i = 0; i < 5; ++i) QApplication::processEvents();
+    }
+    void AloitaTila(const char* nimi) {
+        ikkuna.alku()->Nimesi()->setText(nimi);
+        ikkuna.alku()->Command1()->click();
+        Odota();
+    }
+
+    QTemporaryDir väliaikainen;
+    Kansiot kansiot;
+    Automaatti kanavat;
+    Peli peli;
+    Pääikkuna ikkuna;
+};
+
+bool Tallenna(QWidget* w, const QDir& kansio, const char* nimi) {
+    QApplication::processEvents();
+    const bool ok = w->grab().save(kansio.filePath(nimi));
+    std::printf("%s %s\n", ok ? "wrote" : "FAILED", kansio.filePath(nimi).toStdString().c_str());
+    return ok;
+}
+}  // namespace
+
+int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
+    QDir kansio(QString::fromStdString(polku));
+    if (!kansio.mkpath(".")) {
+        std::fprintf(stderr, "tanhua: cannot make the folder %s\n", polku.c_str());
+        return 2;
+    }
+    Näyttämö n(kansiot);
+    Pääikkuna& w = n.ikkuna;
+    Peli& peli = n.peli;
+    bool ok = true;
+    n.ikkuna.alku()->Nimesi()->setText("Matti");
+    ok &= Tallenna(&w, kansio, "01-Alku.png");
+
+    // A farm of a few weeks: hens, a cock, a cow and a bull; the accountant keeps the silo.
+    peli.alku.Ohjeita = true;
+    n.ikkuna.alku()->Ohjeita()->setChecked(true);
+    n.AloitaTila("Matti");
+    Aseta(peli.m.Raha, 30000);
+    for (const char* eläin : {"Kana", "Kana", "Kana", "Kana", "Kukko", "Lehmä", "Sonni"}) {
+        ValitseEläin(peli, KorttiNimellä(eläin));
+        Osta(peli);
+    }
+    Aseta(peli.m.Työ[Kirjanpitäjä], 1);
+    AsetaAutomyynti(peli, Rehu, true);
+    AsetaAutomyynti(peli, Muna, true);
+    for (int i = 0; i < 12; ++i) w.SeuraavaPäivä();
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "02-Tanhua.png");
+
+    w.AvaaRuutu(w.eläimet());
+    ValitseEläin(peli, KorttiNimellä("Lehmä"));
+    OsoitinEläinruudulla(peli, EläinKohde::Kuva, KorttiNimellä("Lehmä"));
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "03-Eläimet.png");
+    w.eläimet()->Takaisin()->click();
+
+    w.AvaaRuutu(w.tuotteet());
+    AvaaTuote(peli, Maito);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "04-Tuotteet.png");
+    AvaaTuote(peli, Rehu);
+    KirjanpitäjäKuva(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "05-Tuotteet-Kirjanpitäjä.png");
+    w.tuotteet()->Command1()->click();
+
+    while (!peli.näkymä.RaporttiAuki) w.SeuraavaPäivä();
+    ok &= Tallenna(&w, kansio, "06-Raportti.png");
+    w.raportti()->Command1()->click();
+
+    PörssiRaportti(peli);
+    w.pino()->setCurrentWidget(w.raportti());
+    ok &= Tallenna(&w, kansio, "07-Pörssikurssit.png");
+    SuljeRaportti(peli);
+    w.PalaaPääruutuun();
+
+    // Christmas brings the news window.
+    Aseta(peli.m.Kuukausi, 12);
+    AsetaVuodenaika(peli.m);
+    Aseta(peli.m.Päivä, 23);
+    Aseta(peli.m.Raha, 1500);
+    w.SeuraavaPäivä();
+    ok &= Tallenna(&w, kansio, "08-ikkuna.png");
+    w.uutiset()->Command1()->click();
+
+    w.message()->Valmistele("Menetät nykyisen tilanteesi. Oletko aivan varma?", 1);
+    w.message()->show();
+    ok &= Tallenna(w.message(), kansio, "09-Message-Kyllä-Ei.png");
+    w.message()->hide();
+    w.message()->Valmistele("Rahasi eivät riitä!\n\nRahatilanteesi on  1500\nEläin maksaa 5000\nSinulta puuttuu  3500", 0);
+    w.message()->show();
+    ok &= Tallenna(w.message(), kansio, "10-Message-Sulje.png");
+    w.message()->hide();
+
+    w.AvaaRuutu(w.eläimet());
+    ok &= Tallenna(w.rahaKyltti(), kansio, "11-RahaKyltti.png");
+    w.eläimet()->Takaisin()->click();
+
+    QMessageBox vika(QMessageBox::Critical, "VikaTila",
+                     "Jossain kohtaa pelissä esiintyi vika, mutta peli yrittää itse ratkaista ongelman.\n"
+                     "Jos ohjelma kaatuu seuraavaksi, voit jatkaa tilannettasi lataamalla Autosave.sav tilanteen.",
+                     QMessageBox::Yes | QMessageBox::No, &w);
+    vika.show();
+    ok &= Tallenna(&vika, kansio, "12-VikaTila.png");
+    return ok ? 0 : 1;
+}
+
+int MittaaPäivä(const Kansiot& kansiot) {
+    Näyttämö n(kansiot);
+    n.AloitaTila("Mittari");
+    Muuttujat& m = n.peli.m;
+    // A thousand animals with room, feed and money enough for a year.
+    Aseta(m.Raha, 5000000);
+    Aseta(m.Koko_Navetta, 3000);
+    Aseta(m.Koko_Siilo, 200000);
+    Aseta(m.Koko_Varasto, 200000);
+    Aseta(m.Var[Rehu], 150000);
+    Aseta(m.El[Kana][Naaras], 500);
+    Aseta(m.El[Kana][Uros], 20);
+    Aseta(m.El[Nauta][Naaras], 150);
+    Aseta(m.El[Nauta][Uros], 10);
+    Aseta(m.El[Lammas][Naaras], 150);
+    Aseta(m.El[Lammas][Uros], 10);
+    Aseta(m.El[Sika][Naaras], 150);
+    Aseta(m.El[Sika][Uros], 10);
+    Aseta(m.Työ[Kirjanpitäjä], 1);
+    AsetaAutomyynti(n.peli, Muna, true);
+    AsetaAutomyynti(n.peli, Maito, true);
+    AsetaAutomyynti(n.peli, Rehu, true);
+    std::vector<double> ajat;
+    QElapsedTimer kello;
+    for (int päivä = 0; päivä < 360; ++päivä) {
+        kello.start();
+        n.ikkuna.SeuraavaPäivä();
+        n.ikkuna.repaint();
+        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+        if (n.peli.näkymä.RaporttiAuki) n.ikkuna.raportti()->Command1()->click();
+    }
+    std::sort(ajat.begin(), ajat.end());
+    double summa = 0;
+    for (double t : ajat) summa += t;
+    std::printf("Seuraava päivä with repaint, 360 presses on a farm of 1000 adult animals (%.0f at the end):\n", Navettakuorma(m));
+    std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
+                ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
+    return 0;
+}
+
+}  // namespace tanhua::ui

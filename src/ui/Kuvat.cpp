@@ -1,0 +1,93 @@
+// Pictures and looks of the window.
+#include "Kuvat.h"
+
+// own
+#include "storage/tiedostot.h"
+// Qt
+#include <QEvent>
+#include <QHash>
+#include <QImageReader>
+#include <QPainter>
+
+namespace tanhua::ui {
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+std::string S(const QString& s) { return s.toStdString(); }
+
+namespace {
+QHash<QString, QPixmap>& Välimuisti() {
+    static QHash<QString, QPixmap> kuvat;
+    return kuvat;
+}
+}  // namespace
+
+QPixmap Kuva(const Peli& peli, const std::string& polku) {
+    const auto tiedosto = EtsiTiedosto(peli.kansiot.ohjelma, polku);
+    if (!tiedosto) NostaVika(VIKA_EI_TIEDOSTOA);
+    const QString avain = QString::fromStdString(tiedosto->string());
+    auto& kuvat = Välimuisti();
+    if (auto it = kuvat.find(avain); it != kuvat.end()) return *it;
+    QPixmap kuva(avain);
+    if (kuva.isNull()) NostaVika(VIKA_TIEDOSTONIMI);
+    kuvat.insert(avain, kuva);
+    return kuva;
+}
+
+QPixmap KuvaJosOn(const Peli& peli, const std::string& polku) {
+    try {
+        return Kuva(peli, polku);
+    } catch (const Vika&) {
+        return {};
+    }
+}
+
+namespace {
+// Grows the font of a button while the pointer is over it.
+class Hover : public QObject {
+public:
+    Hover(QPushButton* nappi, int perus, int hover) : QObject(nappi), perus_(perus), hover_(hover) {}
+    bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
+        auto* nappi = static_cast<QPushButton*>(kohde);
+        if (tapahtuma->type() == QEvent::Enter || tapahtuma->type() == QEvent::Leave) {
+            QFont f = nappi->font();
+            f.setPointSize(tapahtuma->type() == QEvent::Enter ? hover_ : perus_);
+            nappi->setFont(f);
+        }
+        return false;
+    }
+
+private:
+    int perus_, hover_;
+};
+}  // namespace
+
+void Teksturoi(const Peli& peli, QPushButton* nappi, const char* tekstuuri, int perusKoko, int hoverKoko) {
+    const auto tiedosto = EtsiTiedosto(peli.kansiot.ohjelma, std::string("Kuvat/") + tekstuuri);
+    QString tyyli = "QPushButton { color: #2b1a0c; font-weight: bold; border: 2px solid #5a3b1c; border-radius: 6px;"
+                    " padding: 4px 10px;";
+    if (tiedosto) tyyli += " border-image: url('" + QString::fromStdString(tiedosto->string()) + "') 0 0 0 0 stretch stretch;";
+    else tyyli += " background: #e8d5a8;";
+    tyyli += " } QPushButton:disabled { color: #8a7a66; } QPushButton:focus { border-color: #b03a1a; }"
+             " QPushButton:pressed { padding-top: 6px; }";
+    nappi->setStyleSheet(tyyli);
+    QFont f = nappi->font();
+    f.setPointSize(perusKoko);
+    nappi->setFont(f);
+    nappi->setCursor(Qt::PointingHandCursor);
+    nappi->installEventFilter(new Hover(nappi, perusKoko, hoverKoko));
+}
+
+void Tausta::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    if (kuva_.isNull()) {
+        p.fillRect(rect(), QColor(40, 60, 30));
+        return;
+    }
+    // Scaled to cover, cropped in the middle: a backdrop never shows bars.
+    const QSize koko = kuva_.size().scaled(size(), Qt::KeepAspectRatioByExpanding);
+    const QRect kohde((width() - koko.width()) / 2, (height() - koko.height()) / 2, koko.width(), koko.height());
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    p.drawPixmap(kohde, kuva_);
+}
+
+}  // namespace tanhua::ui

@@ -1,0 +1,45 @@
+// Pictures and looks of the window: the program folder's pictures by name, the game's fonts and buttons.
+#pragma once
+
+// own
+#include "core/peli.h"
+// Qt
+#include <QPixmap>
+#include <QPushButton>
+#include <QWidget>
+#include <QString>
+// std
+#include <string>
+
+namespace tanhua::ui {
+
+// A picture of the program folder by the game's name ("Kuvat/sattumat/joulu.jpg", "\kuvat\nappi.jpg"),
+// found without regard to case. A missing or unreadable file is failure 53.
+QPixmap Kuva(const Peli& peli, const std::string& polku);
+// The same, or an empty pixmap when the file is missing (for looks that may fall away).
+QPixmap KuvaJosOn(const Peli& peli, const std::string& polku);
+
+QString Q(const std::string& s);
+std::string S(const QString& s);
+
+// Gives a button the texture of the program folder (nappi.jpg or nappi2.jpg) and the game's font;
+// the font grows to the hover size while the pointer is over it.
+void Teksturoi(const Peli& peli, QPushButton* nappi, const char* tekstuuri, int perusKoko, int hoverKoko);
+
+// A widget that paints a picture scaled to cover it, behind its children.
+class Tausta : public QWidget {
+public:
+    explicit Tausta(QWidget* vanhempi = nullptr) : QWidget(vanhempi) {}
+    void AsetaKuva(const QPixmap& kuva) {
+        kuva_ = kuva;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* tapahtuma) override;
+
+private:
+    QPixmap kuva_;
+};
+
+}  // namespace tanhua::ui

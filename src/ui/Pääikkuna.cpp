@@ -1,0 +1,149 @@
+// The game's window: one frame whose pages are the screens, with the news window and the money plate on top.
+#include "Pääikkuna.h"
+
+// own
+#include "Eläimet.h"
+#include "Tuotteet.h"
+#include "core/alku.h"
+#include "core/päivä.h"
+#include "core/pääruutu.h"
+#include "core/vikatila.h"
+#include "core/viestit.h"
+// Qt
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace tanhua::ui {
+
+Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
+    setWindowTitle("Tanhua");
+    setMinimumSize(800, 600);
+    pino_ = new QStackedWidget(this);
+    setCentralWidget(pino_);
+    alku_ = new Alku(peli_, pino_);
+    tanhua_ = new Tanhua(peli_, pino_);
+    raportti_ = new Raportti(peli_, pino_);
+    eläimet_ = new Eläimet(peli_, *this, pino_);
+    tuotteet_ = new Tuotteet(peli_, *this, pino_);
+    for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_})
+        pino_->addWidget(ruutu);
+    uutiset_ = new ikkuna(peli_, pino_);
+    kyltti_ = new RahaKyltti(peli_, pino_);
+    kyltti_->hide();
+    message_ = new Message(peli_, this);
+
+    alku_->Aloitettu = [this] {
+        pino_->setCurrentWidget(tanhua_);
+        PalaaPääruutuun();
+    };
+    alku_->Lopetettu = [this] { lopetus(); };
+    alku_->JatkaPyydetty = [this] {
+        bool avattu = false;
+        Toimi([&] { avattu = JatkaTilannetta(peli_); });
+        if (avattu) {
+            pino_->setCurrentWidget(tanhua_);
+            PalaaPääruutuun();
+        } else {
+            alku_->Päivitä();
+        }
+    };
+    tanhua_->SeuraavaPäivä = [this] { SeuraavaPäivä(); };
+    tanhua_->Lopeta = [this] { Lopeta(); };
+    tanhua_->AvaaEläimet = [this] { AvaaRuutu(eläimet_); };
+    tanhua_->AvaaTuotteet = [this] { AvaaRuutu(tuotteet_); };
+    raportti_->Suljettu = [this] {
+        pino_->setCurrentWidget(tanhua_);
+        PalaaPääruutuun();
+    };
+    uutiset_->Suljettu = [this](const QString&) { Päivitä(); };
+
+    // 1024 x 768, or the screen's size when it is smaller.
+    QSize koko(1024, 768);
+    if (const QScreen* näyttö = QGuiApplication::primaryScreen())
+        koko = koko.boundedTo(näyttö->availableSize());
+    resize(koko);
+}
+
+void Pääikkuna::Käynnistä() {
+    pino_->setCurrentWidget(alku_);
+    AlkuLataus(peli_);
+    alku_->Päivitä();
+}
+
+void Pääikkuna::Toimi(const std::function<void()>& toiminto) {
+    // A failure with no handler of its own is caught here and reported with an unknown place.
+    Vartioitu(peli_, "", {toiminto});
+    Päivitä();
+}
+
+void Pääikkuna::Päivitä() {
+    QWidget* nyt = pino_->currentWidget();
+    if (nyt == tanhua_) {
+        Päivitälukemat(peli_);
+        tanhua_->Päivitä();
+        tanhua_->setEnabled(peli_.näkymä.PääruutuKäytössä);
+    } else if (nyt == eläimet_) {
+        eläimet_->Päivitä();
+    } else if (nyt == tuotteet_) {
+        tuotteet_->Päivitä();
+    }
+    const bool alaruutu = nyt == eläimet_ || nyt == tuotteet_;
+    kyltti_->setVisible(alaruutu);
+    if (alaruutu) {
+        kyltti_->Päivitä();
+        kyltti_->raise();
+    }
+    if (uutiset_->isVisible()) uutiset_->raise();
+}
+
+void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
+    Toimi([&] {
+        SoitaÄäni(peli_, "klik");
+        peli_.näkymä.PääruutuNäkyvissä = false;
+        if (ruutu == eläimet_) eläimet_->Avaa();
+        if (ruutu == tuotteet_) tuotteet_->Avaa();
+        NäytäRaha(peli_);
+    });
+    pino_->setCurrentWidget(ruutu);
+    Päivitä();
+    AsetteleKyltti();
+}
+
+void Pääikkuna::PalaaPääruutuun() {
+    pino_->setCurrentWidget(tanhua_);
+    Toimi([this] { tanhua::PalaaPääruutuun(peli_); });
+    if (tanhua_->isEnabled()) tanhua_->Command4()->setFocus();
+}
+
+void Pääikkuna::SeuraavaPäivä() {
+    // The day has its own handler; the report of a month end disables the main screen.
+    if (!peli_.näkymä.PääruutuKäytössä) return;
+    tanhua::SeuraavaPäivä(peli_);
+    if (peli_.näkymä.RaporttiAuki) pino_->setCurrentWidget(raportti_);
+    Päivitä();
+    uutiset_->setVisible(peli_.näkymä.IkkunaNäkyvissä);
+    if (pino_->currentWidget() == tanhua_ && tanhua_->isEnabled()) tanhua_->Command4()->setFocus();
+}
+
+void Pääikkuna::Lopeta() {
+    bool lopeta = false;
+    Toimi([&] { lopeta = LopetaKysymys(peli_); });
+    if (lopeta) lopetus();
+}
+
+void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }
+
+void Pääikkuna::resizeEvent(QResizeEvent* tapahtuma) {
+    QMainWindow::resizeEvent(tapahtuma);
+    AsetteleKyltti();
+    if (uutiset_->isVisible())
+        uutiset_->move((pino_->width() - uutiset_->width()) / 2, (pino_->height() - uutiset_->height()) / 2);
+}
+
+void Pääikkuna::closeEvent(QCloseEvent* tapahtuma) {
+    // Closing the window ends the game with no question and no save.
+    tapahtuma->accept();
+}
+
+}  // namespace tanhua::ui

@@ -1,0 +1,73 @@
+// The game's window: the start screen, the main screen, the sub-screens, the report and the overlays.
+#pragma once
+
+// own
+#include "Alku.h"
+#include "Message.h"
+#include "RahaKyltti.h"
+#include "Raportti.h"
+#include "Tanhua.h"
+#include "ikkuna.h"
+#include "core/peli.h"
+// Qt
+#include <QApplication>
+#include <QMainWindow>
+#include <QStackedWidget>
+#include <functional>
+
+namespace tanhua::ui {
+
+class Eläimet;
+class Tuotteet;
+
+class Pääikkuna : public QMainWindow {
+public:
+    explicit Pääikkuna(Peli& peli);
+
+    // The start-up of the start screen: reads the last save's name and the settings.
+    void Käynnistä();
+
+    // Runs a player's action under the window's own failure handler and refreshes what is shown.
+    void Toimi(const std::function<void()>& toiminto);
+    // Brings the visible screen up to date with the record.
+    void Päivitä();
+
+    void AvaaRuutu(QWidget* ruutu);
+    void PalaaPääruutuun();
+    void SeuraavaPäivä();
+    void Lopeta();
+
+    Alku* alku() const { return alku_; }
+    Tanhua* tanhua() const { return tanhua_; }
+    Raportti* raportti() const { return raportti_; }
+    ikkuna* uutiset() const { return uutiset_; }
+    RahaKyltti* rahaKyltti() const { return kyltti_; }
+    Message* message() const { return message_; }
+    Eläimet* eläimet() const { return eläimet_; }
+    Tuotteet* tuotteet() const { return tuotteet_; }
+    QStackedWidget* pino() const { return pino_; }
+    Peli& peli() { return peli_; }
+
+    // Tests and the screenshot mode answer the quit question without a person.
+    std::function<void()> lopetus = [] { QApplication::quit(); };
+
+protected:
+    void resizeEvent(QResizeEvent* tapahtuma) override;
+    void closeEvent(QCloseEvent* tapahtuma) override;
+
+private:
+    void AsetteleKyltti();
+
+    Peli& peli_;
+    QStackedWidget* pino_;
+    Alku* alku_;
+    Tanhua* tanhua_;
+    Raportti* raportti_;
+    Eläimet* eläimet_;
+    Tuotteet* tuotteet_;
+    ikkuna* uutiset_;
+    RahaKyltti* kyltti_;
+    Message* message_;
+};
+
+}  // namespace tanhua::ui

@@ -1,0 +1,60 @@
+// The channels in the window.
+#include "QtKanavat.h"
+
+// own
+#include "Pääikkuna.h"
+// Qt
+#include <QEventLoop>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace tanhua::ui {
+
+std::string QtKanavat::Kysy(const std::string& teksti, int tyyli) { return ikkuna_->message()->Kysy(teksti, tyyli); }
+
+void QtKanavat::Kerro(const std::string& kuva, const std::string& teksti) { ikkuna_->uutiset()->Näytä(kuva, teksti); }
+
+void QtKanavat::OdotaIkkunaa() {
+    // The contract notices wait, letting the window live, until the news window is closed.
+    QEventLoop silmukka;
+    auto aiempi = ikkuna_->uutiset()->Suljettu;
+    ikkuna_->uutiset()->Suljettu = [&](const QString& paluu) {
+        if (aiempi) aiempi(paluu);
+        silmukka.quit();
+    };
+    if (ikkuna_->uutiset()->isVisible()) silmukka.exec();
+    ikkuna_->uutiset()->Suljettu = aiempi;
+}
+
+void QtKanavat::ListaRivi(const std::string&) { ikkuna_->tanhua()->Päivitä(); }
+
+void QtKanavat::Raportti(const RaporttiSivu& sivu) {
+    ikkuna_->raportti()->Tulosta(sivu);
+    ikkuna_->pino()->setCurrentWidget(ikkuna_->raportti());
+}
+
+void QtKanavat::Laatikko(const std::string& teksti) {
+    QMessageBox::information(ikkuna_, "Tanhua", QString::fromStdString(teksti));
+}
+
+std::string QtKanavat::Kehote(const std::string& kysymys, const std::string& oletus) {
+    bool ok = false;
+    const QString vastaus = QInputDialog::getText(ikkuna_, "Tanhua", QString::fromStdString(kysymys), QLineEdit::Normal,
+                                                  QString::fromStdString(oletus), &ok);
+    return ok ? vastaus.toStdString() : oletus;
+}
+
+void QtKanavat::Ääni(const std::string& nimi) { soitin_.Soita(nimi); }
+
+bool QtKanavat::ÄäniLaite() { return soitin_.Laite(); }
+
+bool QtKanavat::Vikalaatikko(const std::string&, int, const std::string& teksti) {
+    QMessageBox laatikko(QMessageBox::Critical, "VikaTila", QString::fromStdString(teksti),
+                         QMessageBox::Yes | QMessageBox::No, ikkuna_);
+    laatikko.setObjectName("VikaTila");
+    return laatikko.exec() == QMessageBox::Yes;
+}
+
+void QtKanavat::Lataus(const std::string& texti, int palkki) { ikkuna_->alku()->Lataus(texti, palkki); }
+
+}  // namespace tanhua::ui

@@ -1,0 +1,256 @@
+// The main screen: the farm at a glance and the way to every other screen.
+#include "Tanhua.h"
+
+// own
+#include "core/pääruutu.h"
+#include "core/sää.h"
+// Qt
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace tanhua::ui {
+
+QRect MittariKuva::Kehys() const {
+    // Room above the frame for a bar that runs over: the frame is the lower two thirds.
+    const int yläosa = height() / 3;
+    return QRect(4, yläosa, width() - 8, height() - yläosa - 4);
+}
+
+int MittariKuva::Palkki() const { return Kehys().height() * p_ / 100; }
+
+void MittariKuva::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRect kehys = Kehys();
+    p.setPen(QPen(QColor(60, 40, 20), 2));
+    p.setBrush(QColor(255, 255, 255, 150));
+    p.drawRoundedRect(kehys, 4, 4);
+    const int korkeus = Palkki();
+    if (korkeus > 0) {
+        // Not held to the frame: an over-full store reaches above it.
+        QRect palkki(kehys.left() + 3, kehys.bottom() - korkeus, kehys.width() - 6, korkeus);
+        p.setPen(Qt::NoPen);
+        p.setBrush(väri_);
+        p.drawRect(palkki);
+    }
+}
+
+namespace {
+QLabel* Teksti(const QString& teksti, int koko, QWidget* vanhempi, bool lihavoitu = true) {
+    auto* l = new QLabel(teksti, vanhempi);
+    QFont f = l->font();
+    f.setPointSize(koko);
+    f.setBold(lihavoitu);
+    l->setFont(f);
+    l->setStyleSheet("color: #1f1408;");
+    return l;
+}
+
+QWidget* Lasi(QWidget* vanhempi) {
+    auto* w = new QFrame(vanhempi);
+    w->setObjectName("lasi");
+    w->setStyleSheet("#lasi { background: rgba(255, 250, 235, 205); border: 2px solid rgba(90, 60, 30, 160);"
+                     " border-radius: 10px; }");
+    return w;
+}
+}  // namespace
+
+Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
+    setObjectName("Tanhua");
+    setFocusPolicy(Qt::StrongFocus);
+
+    // Cash, turnover, date, season, weather and version in one panel at the top left.
+    QWidget* tiedot = Lasi(this);
+    auto* t = new QGridLayout(tiedot);
+    t->addWidget(Teksti("Raha:", 12, tiedot), 0, 0);
+    rahaz_ = Teksti("", 18, tiedot);
+    rahaz_->setObjectName("Rahaz");
+    t->addWidget(rahaz_, 0, 1);
+    liikevaihtoOtsikko_ = Teksti("Liikevaihto :", 11, tiedot, false);
+    liikevaihtoz_ = Teksti("", 12, tiedot);
+    liikevaihtoz_->setObjectName("liikevaihtoz");
+    t->addWidget(liikevaihtoOtsikko_, 1, 0);
+    t->addWidget(liikevaihtoz_, 1, 1);
+    t->addWidget(Teksti("Päivämäärä :", 11, tiedot, false), 2, 0);
+    päiväz_ = Teksti("", 13, tiedot);
+    t->addWidget(päiväz_, 2, 1);
+    vuodenaikaz_ = Teksti("", 13, tiedot);
+    t->addWidget(vuodenaikaz_, 3, 1);
+    asteLuku_ = Teksti("", 14, tiedot);
+    asteLuku_->setObjectName("AsteLuku");
+    t->addWidget(asteLuku_, 4, 1);
+    versio_ = Teksti("", 8, tiedot, false);
+    t->addWidget(versio_, 5, 0);
+
+    // The four gauges.
+    QWidget* mittarit = Lasi(this);
+    mittarit->setToolTip("");
+    auto* m = new QGridLayout(mittarit);
+    const std::array<std::pair<const char*, QColor>, 4> tiedotMittareista{
+        std::pair{"Rehu", QColor(200, 160, 40)}, std::pair{"Varasto", QColor(70, 120, 200)},
+        std::pair{"Navetta", QColor(170, 70, 50)}, std::pair{"Hygienia", QColor(60, 160, 80)}};
+    const std::array<const char*, 4> vihjeet{"Rehun määrä suhteessa siilon kokoon",
+                                            "Tuotteiden määrä suhteessa varaston kokoon",
+                                            "Eläinten määrä suhteessa navetan kokoon", ""};
+    for (int i = 0; i < 4; ++i) {
+        mittarit_[i] = new MittariKuva(tiedotMittareista[i].second, mittarit);
+        mittarit_[i]->setObjectName(QString("Mittari%1").arg(i + 1));
+        mittarit_[i]->setToolTip(vihjeet[i]);
+        m->addWidget(mittarit_[i], 0, i);
+        m->addWidget(Teksti(tiedotMittareista[i].first, 9, mittarit, false), 1, i, Qt::AlignHCenter);
+    }
+    Ohje("Image1", mittarit);
+
+    // Stars.
+    QWidget* tähtirivi = new QWidget(this);
+    auto* tr = new QHBoxLayout(tähtirivi);
+    const char* järjestys[] = {"Ensimmäinen", "Toinen", "Kolmas", "Neljäs", "Viides"};
+    for (int i = 0; i < 5; ++i) {
+        tähdet_[i] = new QLabel(tähtirivi);
+        tähdet_[i]->setObjectName(QString("TP_Kuva%1").arg(i));
+        tähdet_[i]->setToolTip(QString(järjestys[i]) + " tähti. Klikkaa tähteä nähdäksesti mitä sinun on "
+                               "saavutettava, jotta tilasi ansaitsee kyseisen tähden.");
+        tr->addWidget(tähdet_[i]);
+    }
+
+    // The event list.
+    lista_ = new QListWidget(this);
+    lista_->setObjectName("Lista");
+    lista_->setToolTip("Ilmoitus lista");
+    lista_->setStyleSheet("QListWidget { background: rgba(255, 252, 240, 225); border: 2px solid #6b4a22;"
+                          " border-radius: 6px; font-size: 11pt; }");
+    lista_->setFocusPolicy(Qt::NoFocus);
+
+    // The hint line.
+    ohje_ = Teksti("", 10, this, false);
+    ohje_->setObjectName("Ohje");
+    ohje_->setWordWrap(true);
+    ohje_->setStyleSheet("color: #1f1408; background: rgba(255, 250, 220, 215); border-radius: 6px; padding: 6px;");
+
+    // The buttons of the screens built so far, the next day and the quit.
+    command1_ = new QPushButton("Eläimet", this);
+    command1_->setToolTip("Eläinten osto, myynti ja teurastus");
+    command3_ = new QPushButton("Tuotteet", this);
+    command3_->setToolTip("Ostettavat ja myytävät tuotteet");
+    command4_ = new QPushButton("Seuraava päivä", this);
+    command4_->setToolTip("Päivän kulutus (Enter pohjassa pikavalinta)");
+    lopetus_ = new QPushButton("Lopeta peli", this);
+    lopetus_->setToolTip("Lopeta pelaaminen");
+    const std::array<std::pair<QPushButton*, const char*>, 4> napit{
+        std::pair{command1_, "Command1"}, std::pair{command3_, "Command3"}, std::pair{command4_, "Command4"},
+        std::pair{lopetus_, "Lopetus"}};
+    for (auto [nappi, nimi] : napit) {
+        nappi->setObjectName(nimi);
+        Teksturoi(peli_, nappi, "nappi.jpg", 12, 14);
+        nappi->setMinimumSize(170, 46);
+        Ohje(nimi, nappi);
+        nappi->installEventFilter(this);
+    }
+    Ohje("Rahaz", rahaz_);
+    Ohje("liikevaihtoz", liikevaihtoz_);
+    connect(command1_, &QPushButton::clicked, this, [this] { if (AvaaEläimet) AvaaEläimet(); });
+    connect(command3_, &QPushButton::clicked, this, [this] { if (AvaaTuotteet) AvaaTuotteet(); });
+    connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
+    connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
+
+    // Layout: information left, gauges right, list in the middle, buttons along the bottom.
+    auto* ylä = new QHBoxLayout;
+    ylä->addWidget(tiedot, 0, Qt::AlignTop);
+    ylä->addStretch();
+    ylä->addWidget(tähtirivi, 0, Qt::AlignTop);
+    ylä->addStretch();
+    ylä->addWidget(mittarit, 0, Qt::AlignTop);
+    auto* keski = new QHBoxLayout;
+    keski->addStretch();
+    keski->addWidget(lista_, 2);
+    keski->addStretch();
+    auto* ala = new QHBoxLayout;
+    ala->addWidget(command1_);
+    ala->addWidget(command3_);
+    ala->addStretch();
+    ala->addWidget(command4_);
+    ala->addStretch();
+    ala->addWidget(lopetus_);
+    auto* pää = new QVBoxLayout(this);
+    pää->setContentsMargins(18, 18, 18, 18);
+    pää->addLayout(ylä);
+    pää->addLayout(keski, 1);
+    pää->addWidget(ohje_);
+    pää->addLayout(ala);
+}
+
+void Tanhua::Ohje(const char* kontrolli, QWidget* w) {
+    w->setProperty("ohje", kontrolli);
+    w->installEventFilter(this);
+}
+
+bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+    if (tapahtuma->type() == QEvent::Enter && peli_.m.OhjeetPäällä) {
+        const QVariant kontrolli = kohde->property("ohje");
+        if (kontrolli.isValid()) {
+            peli_.näkymä.Ohje = Ohjeteksti(kontrolli.toString().toStdString());
+            ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
+        }
+    }
+    // Enter held down on the next-day button runs day after day.
+    if (tapahtuma->type() == QEvent::KeyPress && kohde == command4_) {
+        auto* näppäin = static_cast<QKeyEvent*>(tapahtuma);
+        if (näppäin->key() == Qt::Key_Return || näppäin->key() == Qt::Key_Enter) {
+            if (isEnabled()) command4_->click();
+            return true;
+        }
+    }
+    if (tapahtuma->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(tapahtuma)->key() == Qt::Key_Escape) {
+        if (Lopeta) Lopeta();
+        return true;
+    }
+    return Tausta::eventFilter(kohde, tapahtuma);
+}
+
+void Tanhua::keyPressEvent(QKeyEvent* tapahtuma) {
+    if (tapahtuma->key() == Qt::Key_Escape) {
+        if (Lopeta) Lopeta();
+        return;
+    }
+    Tausta::keyPressEvent(tapahtuma);
+}
+
+void Tanhua::Päivitä() {
+    const Lukemat& l = peli_.näkymä.lukemat;
+    rahaz_->setText(QString::fromStdString(l.Rahaz));
+    liikevaihtoz_->setText(QString::fromStdString(l.liikevaihtoz));
+    liikevaihtoz_->setVisible(l.liikevaihtoNäkyy);
+    liikevaihtoOtsikko_->setVisible(l.liikevaihtoNäkyy);
+    päiväz_->setText(QString::fromStdString(l.Päiväz + "." + l.Kuukausiz + "." + l.Vuosiz));
+    vuodenaikaz_->setText(QString::fromStdString(l.Vuodenaikaz));
+    const LämpötilaNäyttö aste = AsteLuku(peli_.m.Lämpötila);
+    asteLuku_->setText(QString::fromStdString(aste.teksti));
+    asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3);").arg(aste.r).arg(aste.g).arg(aste.b));
+    versio_->setText(QString::fromStdString(l.Versio));
+    for (int i = 0; i < 4; ++i) mittarit_[i]->Aseta(l.mittarit[i]);
+    const QPixmap keltainen = KuvaJosOn(peli_, "Kuvat/Tähti.gif"), musta = KuvaJosOn(peli_, "Kuvat/Tähti2.gif");
+    for (int i = 0; i < 5; ++i) {
+        tähdet_[i]->setVisible(l.tähdetNäkyvät);
+        tähdet_[i]->setPixmap(i < l.tähtiä ? keltainen : musta);
+    }
+    if (tausta_ != l.Tausta) {
+        tausta_ = l.Tausta;
+        AsetaKuva(KuvaJosOn(peli_, l.Tausta));
+    }
+    const auto& rivit = peli_.näkymä.Lista;
+    if (lista_->count() != static_cast<int>(rivit.size()) ||
+        (!rivit.empty() && lista_->item(lista_->count() - 1)->text() != QString::fromStdString(rivit.back()))) {
+        lista_->clear();
+        for (const std::string& rivi : rivit) lista_->addItem(QString::fromStdString(rivi));
+    }
+    lista_->setVisible(peli_.näkymä.ListaNäkyvissä && !rivit.empty());
+    if (lista_->count() > 0) lista_->setCurrentRow(lista_->count() - 1);
+    ohje_->setVisible(peli_.m.OhjeetPäällä);
+    ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
+}
+
+}  // namespace tanhua::ui

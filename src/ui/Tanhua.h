@@ -1,0 +1,73 @@
+// The main screen: cash, date, weather, gauges, stars, the event list and the next-day button.
+#pragma once
+
+#include <functional>
+
+// own
+#include "Kuvat.h"
+#include "core/peli.h"
+// Qt
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <array>
+
+namespace tanhua::ui {
+
+// One gauge: a bar growing up from the bottom of its frame; an over-full value reaches above it.
+class MittariKuva : public QWidget {
+public:
+    MittariKuva(QColor väri, QWidget* vanhempi) : QWidget(vanhempi), väri_(väri) { setMinimumSize(34, 150); }
+    void Aseta(const Mittari& mittari) {
+        if (mittari.piirretään) p_ = mittari.p;
+        update();
+    }
+    int p() const { return p_; }
+    // The bar's height in pixels for the frame's inner height, as the gauge draws it.
+    int Palkki() const;
+
+protected:
+    void paintEvent(QPaintEvent* tapahtuma) override;
+
+private:
+    QRect Kehys() const;
+    QColor väri_;
+    int p_ = 0;
+};
+
+class Tanhua : public Tausta {
+public:
+    Tanhua(Peli& peli, QWidget* vanhempi);
+
+    // Reads the figures of the record (Päivitälukemat) onto the screen.
+    void Päivitä();
+
+    QPushButton* Command1() const { return command1_; }
+    QPushButton* Command3() const { return command3_; }
+    QPushButton* Command4() const { return command4_; }
+    QPushButton* Lopetus() const { return lopetus_; }
+    QLabel* Rahaz() const { return rahaz_; }
+    QListWidget* Lista() const { return lista_; }
+    const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
+
+    // What the frame does for the buttons of the main screen.
+    std::function<void()> AvaaEläimet, AvaaTuotteet, SeuraavaPäivä, Lopeta;
+
+protected:
+    void keyPressEvent(QKeyEvent* tapahtuma) override;
+    bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
+
+private:
+    QWidget* Paneeli(QWidget* vanhempi);
+    void Ohje(const char* kontrolli, QWidget* w);
+
+    Peli& peli_;
+    QLabel *rahaz_, *liikevaihtoz_, *liikevaihtoOtsikko_, *päiväz_, *vuodenaikaz_, *asteLuku_, *versio_, *ohje_;
+    std::array<QLabel*, 5> tähdet_{};
+    std::array<MittariKuva*, 4> mittarit_{};
+    QListWidget* lista_;
+    QPushButton *command1_, *command3_, *command4_, *lopetus_;
+    std::string tausta_;
+};
+
+}  // namespace tanhua::ui

@@ -1,0 +1,292 @@
+// The product screen: stocks, the card, the accountant's panel.
+#include "Tuotteet.h"
+
+// own
+#include "Pääikkuna.h"
+#include "market/myynti.h"
+#include "market/taulut/tuoteruutu.h"
+// Qt
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+
+namespace tanhua::ui {
+
+namespace {
+QLabel* Nimi(const QString& teksti, int koko, QWidget* vanhempi, bool lihava = true) {
+    auto* l = new QLabel(teksti, vanhempi);
+    l->setStyleSheet(QString("color: #24160a; font-size: %1pt; %2").arg(koko).arg(lihava ? "font-weight: bold;" : ""));
+    return l;
+}
+
+QFrame* Paneeli(QWidget* vanhempi, const char* nimi) {
+    auto* f = new QFrame(vanhempi);
+    f->setObjectName(nimi);
+    f->setStyleSheet(QString("#%1 { background: rgba(255, 250, 235, 228); border: 2px solid #6b4a22;"
+                             " border-radius: 10px; }").arg(nimi));
+    return f;
+}
+
+QString Sv(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+QString Määrä(double x) { return QString::fromStdString(Str(static_cast<float>(x))); }
+}  // namespace
+
+Tuotteet::Tuotteet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
+    : Tausta(vanhempi), peli_(peli), ikkuna_(ikkuna) {
+    setObjectName("Tuotteet");
+    setMouseTracking(true);
+    AsetaKuva(KuvaJosOn(peli_, "Kuvat/Tuotteet.jpg"));
+    aihe_ = Nimi(Sv(tuoteruutu::AIHE_RUUTU), 16, this);
+    aihe_->setObjectName("aihe");
+    aihe_->setStyleSheet(aihe_->styleSheet() + "background: rgba(255,250,235,200); border-radius: 8px; padding: 4px 10px;");
+    ohje_ = Nimi("", 10, this, false);
+    ohje_->setObjectName("Ohje");
+    ohje_->setWordWrap(true);
+    ohje_->setStyleSheet("color: #1f1408; background: rgba(255, 250, 220, 215); border-radius: 6px; padding: 6px;");
+    sulje_ = new QPushButton("Takaisin", this);
+    sulje_->setObjectName("Command1");
+    Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
+    sulje_->setMinimumSize(140, 40);
+    sulje_->setProperty("kohde", static_cast<int>(TuoteKohde::Command1));
+    sulje_->installEventFilter(this);
+    connect(sulje_, &QPushButton::clicked, this, &Tuotteet::Sulje);
+    kirjanpitäjä_ = new QLabel(this);
+    kirjanpitäjä_->setObjectName("KirjanpitäjäKuva");
+    kirjanpitäjä_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/kirjanpitäjä.jpg").scaled(84, 84, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    kirjanpitäjä_->setCursor(Qt::PointingHandCursor);
+    kirjanpitäjä_->setProperty("kohde", static_cast<int>(TuoteKohde::KirjanpitäjäKuva));
+    kirjanpitäjä_->installEventFilter(this);
+    akkuna_ = Korttipaneeli();
+    taulu_ = Kirjanpitäjänpaneeli();
+
+    auto* ylä = new QHBoxLayout;
+    ylä->addWidget(aihe_);
+    ylä->addStretch();
+    ylä->addSpacing(240);  // room for the money plate
+    auto* oikea = new QVBoxLayout;
+    oikea->addWidget(akkuna_);
+    oikea->addWidget(kirjanpitäjä_, 0, Qt::AlignLeft);
+    oikea->addWidget(taulu_);
+    oikea->addStretch();
+    auto* keski = new QHBoxLayout;
+    keski->addWidget(Hylly(), 3);
+    keski->addLayout(oikea, 2);
+    auto* ala = new QHBoxLayout;
+    ala->addWidget(ohje_, 1);
+    ala->addWidget(sulje_, 0, Qt::AlignBottom);
+    auto* pää = new QVBoxLayout(this);
+    pää->setContentsMargins(16, 12, 16, 12);
+    pää->addLayout(ylä);
+    pää->addLayout(keski, 1);
+    pää->addLayout(ala);
+}
+
+QWidget* Tuotteet::Hylly() {
+    QFrame* hylly = Paneeli(this, "hylly");
+    auto* g = new QGridLayout(hylly);
+    g->setSpacing(4);
+    for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
+        const TuoteRivi& rivi = TUOTETAULU[k];
+        kuvat_[k] = new QLabel(hylly);
+        kuvat_[k]->setObjectName(QString("Kuva_%1").arg(Sv(rivi.avain)));
+        kuvat_[k]->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + std::string(rivi.kuva))
+                                 .scaled(58, 58, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[k]->setAlignment(Qt::AlignCenter);
+        kuvat_[k]->setCursor(Qt::PointingHandCursor);
+        kuvat_[k]->setToolTip(Sv(rivi.nimi));
+        kuvat_[k]->setProperty("tuote", k);
+        kuvat_[k]->setProperty("kohde", static_cast<int>(TuoteKohde::Kuva));
+        kuvat_[k]->installEventFilter(this);
+        varastot_[k] = Nimi("", 10, hylly);
+        varastot_[k]->setAlignment(Qt::AlignCenter);
+        const int rivinro = (k / 5) * 2, sarake = k % 5;
+        g->addWidget(kuvat_[k], rivinro, sarake);
+        g->addWidget(varastot_[k], rivinro + 1, sarake);
+    }
+    return hylly;
+}
+
+QFrame* Tuotteet::Korttipaneeli() {
+    QFrame* p = Paneeli(this, "akkuna");
+    nimi_ = Nimi("", 16, p);
+    korttikuva_ = new QLabel(p);
+    hinta_ = Nimi("", 11, p, false);
+    kurssi_ = Nimi("", 11, p, false);
+    vAika_ = Nimi("", 11, p, false);
+    yhinta_ = Nimi("", 11, p, false);
+    kpl_ = Nimi("", 11, p, false);
+    yhthinta_ = Nimi("", 13, p);
+    yhthinta_->setObjectName("Yhthinta");
+    lisäasetus_ = new QCheckBox(p);
+    lisäasetus_->setObjectName("Tuotelisäasetus");
+    lisäasetus_->setStyleSheet("color: #24160a;");
+    myyKaikki_ = new QPushButton("Myy", p);
+    myyKaikki_->setObjectName("Command2");
+    myyKaikki_->setToolTip("Myy kaikki tuotteet");
+    myyKaikki_->setProperty("kohde", static_cast<int>(TuoteKohde::Command2));
+    myyPuolet_ = new QPushButton("Myy 1/2", p);
+    myyPuolet_->setObjectName("Command6");
+    myyPuolet_->setToolTip("Myy puolet valitsemastasi tuotteista");
+    myyPuolet_->setProperty("kohde", static_cast<int>(TuoteKohde::Command6));
+    osta_ = new QPushButton("Osta", p);
+    osta_->setObjectName("Command3");
+    osta_->setToolTip("Ostaa kyseistä tuotetta");
+    osta_->setProperty("kohde", static_cast<int>(TuoteKohde::Command3));
+    for (QPushButton* n : {myyKaikki_, myyPuolet_, osta_}) {
+        Teksturoi(peli_, n, "nappi2.jpg", 11, 12);
+        n->setMinimumHeight(34);
+        n->installEventFilter(this);
+    }
+    auto toimi = [this](void (*f)(Peli&)) { return [this, f] { ikkuna_.Toimi([this, f] { f(peli_); NäytäRaha(peli_); }); }; };
+    connect(myyKaikki_, &QPushButton::clicked, this, toimi(MyyKaikki));
+    connect(myyPuolet_, &QPushButton::clicked, this, toimi(MyyPuolet));
+    connect(osta_, &QPushButton::clicked, this, toimi(OstaRehua));
+    connect(lisäasetus_, &QCheckBox::clicked, this, [this](bool päällä) {
+        ikkuna_.Toimi([this, päällä] { Tuotelisäasetus(peli_, päällä); });
+    });
+    auto* g = new QGridLayout(p);
+    g->addWidget(nimi_, 0, 0, 1, 2);
+    g->addWidget(korttikuva_, 0, 2, 3, 1, Qt::AlignRight | Qt::AlignTop);
+    const std::array<std::pair<const char*, QLabel*>, 6> rivit{
+        std::pair{"Perushinta:", hinta_}, std::pair{"Pörssikurssi:", kurssi_}, std::pair{"Vuodenaika :", vAika_},
+        std::pair{"Yhteishinta:", yhinta_}, std::pair{"x Tuotteita :", kpl_}, std::pair{"Yhteensä :", yhthinta_}};
+    for (int i = 0; i < 6; ++i) {
+        g->addWidget(Nimi(rivit[i].first, 11, p, false), 1 + i, 0);
+        g->addWidget(rivit[i].second, 1 + i, 1);
+    }
+    g->addWidget(lisäasetus_, 7, 0, 1, 3);
+    auto* napit = new QHBoxLayout;
+    napit->addWidget(myyKaikki_);
+    napit->addWidget(myyPuolet_);
+    napit->addWidget(osta_);
+    g->addLayout(napit, 8, 0, 1, 3);
+    p->hide();
+    return p;
+}
+
+QFrame* Tuotteet::Kirjanpitäjänpaneeli() {
+    QFrame* p = Paneeli(this, "Taulu");
+    auto* g = new QGridLayout(p);
+    g->setVerticalSpacing(1);
+    g->addWidget(Nimi("Kirjanpitäjän automaattinen myynti", 11, p), 0, 0, 1, 4);
+    int rivi = 1;
+    for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
+        const QString nimi = k == Rehu ? QString("Osta rehua") : Sv(TUOTETAULU[k].listaNimi);
+        myy_[k] = new QCheckBox(nimi, p);
+        myy_[k]->setObjectName(k == Rehu ? QString("OstaRehu") : "Myy" + Sv(TUOTETAULU[k].avain));
+        myy_[k]->setStyleSheet("color: #24160a;");
+        tyyli_[k] = new QPushButton(p);
+        tyyli_[k]->setObjectName(myy_[k]->objectName() + "Tyyli");
+        tyyli_[k]->setFlat(true);
+        tyyli_[k]->setStyleSheet("color: #24160a; text-decoration: underline;");
+        const int sarake = (k % 2) * 2;
+        g->addWidget(myy_[k], rivi + k / 2, sarake);
+        g->addWidget(tyyli_[k], rivi + k / 2, sarake + 1);
+        connect(myy_[k], &QCheckBox::clicked, this, [this, k](bool päällä) {
+            ikkuna_.Toimi([this, k, päällä] { AsetaAutomyynti(peli_, static_cast<Tuote>(k), päällä); });
+        });
+        connect(tyyli_[k], &QPushButton::clicked, this, [this, k] {
+            ikkuna_.Toimi([this, k] { KäännäTyyli(peli_, static_cast<Tuote>(k)); });
+        });
+    }
+    rulla_ = new QSlider(Qt::Horizontal, p);
+    rulla_->setObjectName("rulla");
+    rulla_->setRange(0, 1);
+    myyntiAika_ = Nimi("", 11, p);
+    myyntiAika_->setObjectName("MyyntiAika");
+    g->addWidget(Nimi("Myynti :", 11, p, false), 12, 0);
+    g->addWidget(rulla_, 12, 1);
+    g->addWidget(myyntiAika_, 12, 2, 1, 2);
+    connect(rulla_, &QSlider::valueChanged, this, [this](int arvo) {
+        ikkuna_.Toimi([this, arvo] { AsetaMyyntiaika(peli_, arvo); });
+    });
+    p->hide();
+    return p;
+}
+
+void Tuotteet::Avaa() { AvaaTuotteet(peli_); }
+
+void Tuotteet::Päivitä() {
+    const Muuttujat& m = peli_.m;
+    const TuoteRuutuTila& t = peli_.tuoteruutu;
+    for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) varastot_[k]->setText(Määrä(t.varasto[k]));
+    aihe_->setText(QString::fromStdString(t.aihe));
+    ohje_->setVisible(m.OhjeetPäällä);
+    ohje_->setText(QString::fromStdString(t.ohje));
+    akkuna_->setVisible(t.akkuna);
+    if (t.akkuna && t.tuote >= 0) {
+        nimi_->setText(QString::fromStdString(t.nimi));
+        korttikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + std::string(TUOTETAULU[t.tuote].kuva))
+                                   .scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        hinta_->setText(QString::fromStdString(Str(t.hinta)));
+        kurssi_->setText(QString::fromStdString(Str(t.kurssi)));
+        vAika_->setText(QString::fromStdString(t.vAika));
+        yhinta_->setText(QString::fromStdString(Str(t.yhinta)));
+        kpl_->setText(Määrä(t.kpl));
+        yhthinta_->setText(QString::fromStdString(Str(t.Yhthinta)));
+        osta_->setEnabled(t.ostaKäytössä);
+        lisäasetus_->setVisible(t.lisäasetusNäkyy);
+        lisäasetus_->setText(QString::fromStdString(t.lisäasetusTeksti));
+        lisäasetus_->setChecked(t.lisäasetus);
+    }
+    kirjanpitäjä_->setVisible(t.kirjanpitäjäKuva);
+    taulu_->setVisible(t.taulu);
+    for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
+        myy_[k]->setChecked(m.Tuotteet.Myy[k] == 1);
+        tyyli_[k]->setText(QString::fromStdString(m.Tuotteet.MyyTyyli[k]));
+    }
+    {
+        const QSignalBlocker esto(rulla_);
+        rulla_->setValue(m.Tuotteet.rulla);
+    }
+    myyntiAika_->setText(Sv(tuoteruutu::MYYNTIAJAT.at(m.Tuotteet.rulla == 1 ? 1 : 0)));
+}
+
+bool Tuotteet::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+    const QVariant kohdeTyyppi = kohde->property("kohde");
+    if (tapahtuma->type() == QEvent::Enter && kohdeTyyppi.isValid()) {
+        const auto mikä = static_cast<TuoteKohde>(kohdeTyyppi.toInt());
+        const int k = kohde->property("tuote").isValid() ? kohde->property("tuote").toInt() : -1;
+        ikkuna_.Toimi([&] { OsoitinTuoteruudulla(peli_, mikä, k); });
+    }
+    if (tapahtuma->type() == QEvent::MouseButtonPress && kohdeTyyppi.isValid()) {
+        const auto mikä = static_cast<TuoteKohde>(kohdeTyyppi.toInt());
+        if (mikä == TuoteKohde::Kuva) {
+            const int k = kohde->property("tuote").toInt();
+            ikkuna_.Toimi([&] { AvaaTuote(peli_, static_cast<Tuote>(k)); });
+            return true;
+        }
+        if (mikä == TuoteKohde::KirjanpitäjäKuva) {
+            ikkuna_.Toimi([&] { tanhua::KirjanpitäjäKuva(peli_); });
+            return true;
+        }
+    }
+    return Tausta::eventFilter(kohde, tapahtuma);
+}
+
+void Tuotteet::mouseMoveEvent(QMouseEvent* tapahtuma) {
+    if (childAt(tapahtuma->position().toPoint()) == nullptr)
+        ikkuna_.Toimi([this] { OsoitinTuoteruudulla(peli_, TuoteKohde::Ruutu); });
+    Tausta::mouseMoveEvent(tapahtuma);
+}
+
+void Tuotteet::keyPressEvent(QKeyEvent* tapahtuma) {
+    if (tapahtuma->key() == Qt::Key_Escape) {
+        // With the card or the panel showing, Esc hides both; otherwise it leaves the screen.
+        const bool jotainAuki = peli_.tuoteruutu.akkuna || peli_.tuoteruutu.taulu;
+        ikkuna_.Toimi([this] { TuotteetEsc(peli_); });
+        if (!jotainAuki) ikkuna_.PalaaPääruutuun();
+        return;
+    }
+    Tausta::keyPressEvent(tapahtuma);
+}
+
+void Tuotteet::Sulje() {
+    ikkuna_.Toimi([this] { SuljeTuotteet(peli_); });
+    ikkuna_.PalaaPääruutuun();
+}
+
+}  // namespace tanhua::ui

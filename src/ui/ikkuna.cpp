@@ -1,0 +1,54 @@
+// The news window: black, with the event's picture, its text and "Sulje".
+#include "ikkuna.h"
+
+// own
+#include "Kuvat.h"
+// Qt
+#include <QVBoxLayout>
+
+namespace tanhua::ui {
+
+ikkuna::ikkuna(Peli& peli, QWidget* vanhempi) : QFrame(vanhempi), peli_(peli) {
+    setObjectName("ikkuna");
+    setStyleSheet("#ikkuna { background: black; border: 3px solid #c8a060; border-radius: 8px; }");
+    kuva_ = new QLabel(this);
+    kuva_->setAlignment(Qt::AlignCenter);
+    kuva_->setMinimumSize(400, 300);
+    tapahtuma_ = new QLabel("Tapahtumat", this);
+    tapahtuma_->setObjectName("Tapahtuma");
+    tapahtuma_->setWordWrap(true);
+    tapahtuma_->setAlignment(Qt::AlignCenter);
+    tapahtuma_->setStyleSheet("color: #f4ecd8; font-size: 13pt;");
+    sulje_ = new QPushButton("Sulje", this);
+    sulje_->setObjectName("Command1");
+    Teksturoi(peli_, sulje_, "nappi2.jpg", 10, 12);
+    sulje_->setMinimumSize(120, 34);
+    auto* asettelu = new QVBoxLayout(this);
+    asettelu->addWidget(kuva_, 1);
+    asettelu->addWidget(tapahtuma_);
+    asettelu->addWidget(sulje_, 0, Qt::AlignHCenter);
+    connect(sulje_, &QPushButton::clicked, this, &ikkuna::Sulje);
+    hide();
+}
+
+void ikkuna::Näytä(const std::string& kuva, const std::string& teksti) {
+    // An event without a picture of its own shows the blank picture.
+    const QPixmap p = kuva.empty() ? QPixmap() : Kuva(peli_, kuva);
+    kuva_->setPixmap(p.isNull() ? QPixmap() : p.scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    tapahtuma_->setText(QString::fromStdString(teksti));
+    const QWidget* alla = parentWidget();
+    resize(480, 460);
+    move((alla->width() - width()) / 2, (alla->height() - height()) / 2);
+    show();
+    raise();
+}
+
+void ikkuna::Sulje() {
+    const QString paluu = QString::fromStdString(peli_.näkymä.PaluuLomake);
+    hide();
+    peli_.näkymä.IkkunaNäkyvissä = false;
+    peli_.näkymä.PaluuLomake.clear();
+    if (Suljettu) Suljettu(paluu);
+}
+
+}  // namespace tanhua::ui

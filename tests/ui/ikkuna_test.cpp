@@ -1,0 +1,218 @@
+// The window driven as a player drives it: the start screen, the main screen, the two trade screens,
+// the Message box's keys, the month's report.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+
+#include "storage/tiedostot.h"
+#include "tuki/testipeli.h"
+#include "ui/Eläimet.h"
+#include "ui/Pääikkuna.h"
+#include "ui/QtKanavat.h"
+#include "ui/Tuotteet.h"
+
+namespace tanhua::ui {
+namespace {
+
+// A window on a fresh data folder seeded from the built program folder.
+struct Ikkuna {
+    Ikkuna() : kansiot{TANHUA_PROGRAM_DIR, kansio.polku() / "Data"}, kanavat(kansiot.ohjelma), peli(kanavat, kansiot) {
+        AlustaDatakansio(kansiot);
+        w = std::make_unique<Pääikkuna>(peli);
+        kanavat.Liitä(w.get());
+        w->lopetus = [this] { lopetettu = true; };
+        w->resize(1024, 768);
+        w->show();
+        // A box nobody expected is closed by the watchdog, and the test fails instead of hanging.
+        vahti.setInterval(1500);
+        QObject::connect(&vahti, &QTimer::timeout, [this] {
+            if (w->message()->isVisible()) {
+                odottamaton = peli.näkymä.MsgTeksti;
+                QTest::keyClick(w->message(), Qt::Key_E);
+            }
+        });
+        vahti.start();
+        w->Käynnistä();
+    }
+    ~Ikkuna() { EXPECT_EQ(odottamaton, "") << "a Message box nobody answered"; }
+    void Aloita(const char* nimi = "Matti") {
+        w->alku()->Nimesi()->setText(nimi);
+        QTest::keyClick(w->alku()->Nimesi(), Qt::Key_Return);
+    }
+    // Answers the next Message box with a key once it is open.
+    void VastaaNäppäimellä(Qt::Key näppäin) {
+        QTimer::singleShot(0, [this, näppäin] { QTest::keyClick(w->message(), näppäin); });
+    }
+
+    testi::Väliaikainen kansio;
+    Kansiot kansiot;
+    QtKanavat kanavat;
+    Peli peli;
+    std::unique_ptr<Pääikkuna> w;
+    QTimer vahti;
+    std::string odottamaton;
+    bool lopetettu = false;
+};
+
+TEST(Window, StartsANewFarmFromTheStartScreen) {
+    Ikkuna i;
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->alku());
+    EXPECT_FALSE(i.w->alku()->Command2()->isEnabled()) << "no farm saved yet";
+    QTest::mouseClick(i.w->alku()->Command3(), Qt::LeftButton);  // Vaikea
+    EXPECT_EQ(i.w->alku()->VTaso()->text(), "Vaikea");
+    QTest::mouseClick(i.w->alku()->Command3(), Qt::LeftButton);  // stays at the end
+    EXPECT_EQ(i.w->alku()->VTaso()->text(), "Vaikea");
+    i.Aloita("Matti");
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+    EXPECT_EQ(i.peli.m.PelaajanNimi, "Matti");
+    EXPECT_EQ(i.w->tanhua()->Rahaz()->text(), "8000");
+    EXPECT_TRUE(i.w->tanhua()->Command4()->hasFocus()) << "the next-day button holds the focus";
+}
+
+TEST(Window, AnEmptyNameIsRefusedWithTheBox) {
+    Ikkuna i;
+    i.VastaaNäppäimellä(Qt::Key_K);
+    QTest::mouseClick(i.w->alku()->Command1(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Et voi aloittaa uutta tilannetta, ennenkuin kirjoitat nimesi.");
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->alku());
+    EXPECT_FALSE(i.peli.käynnissä);
+}
+
+TEST(Window, TheMessageBoxAnswersToKAndEInBothStyles) {
+    struct Tapaus { int tyyli; Qt::Key näppäin; const char* vastaus; };
+    for (const Tapaus& c : {Tapaus{1, Qt::Key_K, "Kyllä"}, {1, Qt::Key_E, "Ei"}, {0, Qt::Key_K, "Kyllä"},
+                            {0, Qt::Key_E, "Ei"}}) {
+        Ikkuna i;
+        i.VastaaNäppäimellä(c.näppäin);
+        EXPECT_EQ(i.w->message()->Kysy("Kysymys?", c.tyyli), c.vastaus);
+        EXPECT_FALSE(i.w->message()->isVisible());
+    }
+    Ikkuna i;
+    QTimer::singleShot(0, [&] {
+        EXPECT_FALSE(i.w->message()->kyllä()->isVisible());
+        QTest::mouseClick(i.w->message()->sulje(), Qt::LeftButton);
+    });
+    EXPECT_EQ(i.w->message()->Kysy("Ilmoitus", 0), "vastattu");
+}
+
+TEST(Window, EnterOnTheNextDayButtonRunsADay) {
+    Ikkuna i;
+    i.Aloita();
+    QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
+    QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Enter);
+    EXPECT_EQ(i.peli.m.Päivä, 3);
+}
+
+TEST(Window, BuysAndSellsOnTheAnimalScreen) {
+    Ikkuna i;
+    i.Aloita();
+    Aseta(i.peli.m.Koko_Navetta, 15);
+    QTest::mouseClick(i.w->tanhua()->Command1(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->eläimet());
+    EXPECT_TRUE(i.w->rahaKyltti()->isVisible());
+    Eläimet* e = i.w->eläimet();
+    QTest::mouseClick(e->Kuva(6), Qt::LeftButton);  // Kana
+    EXPECT_TRUE(e->akkuna()->isVisible());
+    QTest::mouseClick(e->Plus(), Qt::LeftButton);
+    EXPECT_EQ(e->määrä()->text(), "10");
+    QTest::mouseClick(e->Osta(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.m.El[Kana][Naaras], 10);
+    EXPECT_EQ(i.peli.m.Raha, 5000);
+    EXPECT_EQ(e->Laskuri(6)->text(), " 10");
+    EXPECT_EQ(i.w->rahaKyltti()->Rahatilaz()->text(), " 5000") << "the plate shows Str of the cash";
+    QTest::mouseClick(e->Miinus(), Qt::LeftButton);
+    QTest::mouseClick(e->Myy(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.m.El[Kana][Naaras], 9);
+    EXPECT_EQ(i.peli.m.Raha, 5300);
+    // A refusal: a second lot of ten doesn't fit in the barn of fifteen.
+    QTest::mouseClick(e->Plus(), Qt::LeftButton);
+    i.VastaaNäppäimellä(Qt::Key_K);
+    QTest::mouseClick(e->Osta(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Sinulla ei ole tilaa navetassasi.");
+    EXPECT_EQ(i.peli.m.El[Kana][Naaras], 9);
+    QTest::mouseClick(e->Takaisin(), Qt::LeftButton);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+    EXPECT_FALSE(i.w->rahaKyltti()->isVisible());
+}
+
+TEST(Window, SellsAndBuysFeedOnTheProductScreen) {
+    Ikkuna i;
+    i.Aloita();
+    Aseta(i.peli.m.Var[Maito], 20);
+    QTest::mouseClick(i.w->tanhua()->Command3(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->tuotteet());
+    Tuotteet* t = i.w->tuotteet();
+    QTest::mouseClick(t->Kuva(Maito), Qt::LeftButton);
+    EXPECT_TRUE(t->akkuna()->isVisible());
+    EXPECT_FALSE(t->Command3()->isEnabled()) << "only feed can be bought";
+    const float raha = i.peli.m.Raha;
+    QTest::mouseClick(t->Command2(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.m.Var[Maito], 0);
+    EXPECT_GT(i.peli.m.Raha, raha);
+    EXPECT_EQ(t->Varasto(Maito)->text(), " 0");
+    QTest::mouseClick(t->Kuva(Rehu), Qt::LeftButton);
+    EXPECT_TRUE(t->Command3()->isEnabled());
+    QTest::mouseClick(t->Command3(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.m.Var[Rehu], i.peli.m.Koko_Siilo) << "the silo is filled";
+    QTest::keyClick(t, Qt::Key_Escape);  // hides the card
+    EXPECT_FALSE(t->akkuna()->isVisible());
+    QTest::keyClick(t, Qt::Key_Escape);  // leaves the screen
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+}
+
+TEST(Window, AMonthEndShowsTheReportUntilItIsClosed) {
+    Ikkuna i;
+    i.Aloita();
+    Aseta(i.peli.m.Päivä, 30);
+    Aseta(i.peli.m.Liikevaihto, 250);
+    QTest::mouseClick(i.w->tanhua()->Command4(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->raportti());
+    EXPECT_EQ(i.w->raportti()->Sivu().otsikko, "Matti - Kuukausiraportti :  31. 6. 1980");
+    EXPECT_EQ(i.w->raportti()->Sivu().rivit.at(1).teksti, "Myynnit : +250");
+    EXPECT_FALSE(i.peli.näkymä.PääruutuKäytössä);
+    i.w->SeuraavaPäivä();  // no new day while the report is open
+    EXPECT_EQ(i.peli.m.Päivä, 1);
+    QTest::mouseClick(i.w->raportti()->Command1(), Qt::LeftButton);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+    EXPECT_TRUE(i.w->tanhua()->isEnabled());
+    EXPECT_EQ(i.peli.m.Liikevaihto, 0);
+    EXPECT_EQ(i.peli.m.Kuukausi, 7);
+}
+
+TEST(Window, MoneyFormatAndGaugeGuardsOnTheMainScreen) {
+    Ikkuna i;
+    i.Aloita();
+    struct Tapaus { float raha; const char* teksti; };
+    for (const Tapaus& c : {Tapaus{999999.6f, "1000000"}, {-2000000, "-2000000"}, {1234567, "1.23 Miljoonaa"},
+                            {2500000000.0f, "2.5 Miljardia"}}) {
+        i.peli.m.Raha = c.raha;
+        i.w->Päivitä();
+        EXPECT_EQ(i.w->tanhua()->Rahaz()->text(), c.teksti) << c.raha;
+    }
+    // An over-full store reaches above its frame; a silo fallen to 0 is put back and not drawn.
+    i.peli.m.Var[Maito] = 150;
+    i.peli.m.Koko_Siilo = 0;
+    i.peli.m.Var[Rehu] = -5;
+    i.w->Päivitä();
+    const auto& mittarit = i.w->tanhua()->Mittarit();
+    EXPECT_EQ(mittarit[1]->p(), 150);
+    EXPECT_GT(mittarit[1]->Palkki(), mittarit[1]->height() * 2 / 3 - 4);
+    EXPECT_EQ(i.peli.m.Koko_Siilo, 100);
+    EXPECT_EQ(i.peli.m.Var[Rehu], 0);
+}
+
+TEST(Window, EscAsksBeforeQuitting) {
+    for (const auto& [näppäin, lopetetaan] : {std::pair{Qt::Key_E, false}, std::pair{Qt::Key_K, true}}) {
+        Ikkuna i;
+        i.Aloita();
+        i.VastaaNäppäimellä(näppäin);
+        QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Escape);
+        EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Oletko varma että lopetat pelin suoraan ilman eläkkeelle siirtymistä?");
+        EXPECT_EQ(i.lopetettu, lopetetaan);
+    }
+}
+
+}  // namespace
+}  // namespace tanhua::ui
