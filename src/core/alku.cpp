@@ -7,6 +7,7 @@
 #include "../storage/tallennus.h"
 #include "../storage/tiedostot.h"
 #include "päivä.h"
+#include "taulut/taustat.h"
 #include "peli.h"
 #include "perushinnat.h"
 #include "pääruutu.h"
@@ -28,12 +29,6 @@ inline constexpr std::array<Alkuarvot, 3> ALKUARVOT{
 };
 inline constexpr const char* SALAINEN_NIMI = "kultaorsi";
 
-// One background for each screen, ticked one by one on the loading bar.
-inline constexpr std::array TAUSTAKUVAT{
-    "Kesä.jpg", "mökki.jpg", "varasto.jpg", "Metsä.jpg", "Tuotteet.jpg", "Kirja.jpg", "pankki.jpg",
-    "iltapelto.jpg", "kirkonkylä.jpg", "PeltoTaloja.jpg", "Käyrät.jpg", "Kylväminen.jpg", "Valotausta1.jpg",
-    "Sopimukset.jpg",
-};
 
 void Tikki(Peli& peli, int askel) {
     peli.alku.palkki += askel;
@@ -52,6 +47,10 @@ void AsetaPalkatJaLihat(Muuttujat& m) {
     }
 }
 }  // namespace
+
+int LatauksenTauko(const Asetukset& asetukset) {
+    return asetukset.Prosessorisäästö ? 15 - JakoKok(asetukset.AnimNopeus, 10) : 0;
+}
 
 void AlkuLataus(Peli& peli) {
     Vartioitu(peli, paikka::AlkuLataus, {

@@ -14,6 +14,11 @@ inline constexpr std::array<const char*, 3> TAVOITELISTA{
 inline constexpr std::array<const char*, 3> PELIMOODIT{"Vapaa", "Miljoona", "10 vuotta"};
 inline constexpr std::array<const char*, 3> VAIKEUSTASOT{"Helppo", "Normaali", "Vaikea"};
 
+struct Asetukset;
+// The pause of the loading bar's tick in milliseconds: 15 - AnimNopeus \ 10 with the processor
+// saving on, none without it.
+int LatauksenTauko(const Asetukset& asetukset);
+
 // Start-up of the start screen: version, the last saved farm, the settings.
 void AlkuLataus(Peli& peli);
 // "Nosta vaikeustasoa" and "Laske vaikeustasoa": a step of the difficulty; at an end nothing happens.

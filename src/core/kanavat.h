@@ -57,6 +57,8 @@ public:
     virtual bool ÄäniLaite() { return true; }
     // The failure box "VikaTila" with Yes and No; true is Yes (go on).
     virtual bool Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) = 0;
+    // The month end's snapshot of the screen, kept for the statistics screen.
+    virtual void Kuvakaappaus() {}
     // Progress of the loading panel: its text and the bar's units.
     virtual void Lataus(const std::string& /*texti*/, int /*palkki*/) {}
 };

@@ -7,6 +7,7 @@
 #include "../storage/tallennus.h"
 #include "../workforce/palkat.h"
 #include "päivä.h"
+#include "pääruutu.h"
 #include "peli.h"
 #include "vero.h"
 #include "viestit.h"
@@ -194,6 +195,9 @@ void Kuukaudenvaihde(Peli& peli) {
     if (peli.asetukset.Autotallennus) TallennaTilanne(peli, "Autosave");
     TarjousSiivous(peli);
     KalenteriKääntyy(m);
+    // The gauges are brought up to date, then the screen is taken as the month's picture.
+    Päivitälukemat(peli);
+    peli.kanavat.Kuvakaappaus();
 }
 
 void SuljeRaportti(Peli& peli) {

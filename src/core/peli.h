@@ -53,6 +53,7 @@ struct Näkymä {
     bool Command5Käytössä = true, Command9Käytössä = true;  // locked by stars
     std::string Ohje;                    // the hint line
     Lukemat lukemat;                     // the main screen's figures
+    int SääKuva = -1;                    // the day's weather picture when the weather gave one of its own
 };
 
 // The controls of the start screen and its loading panel.

@@ -5,6 +5,7 @@
 
 #include "../animals/eläimet.h"
 #include "päivä.h"
+#include "sää.h"
 #include "peli.h"
 #include "viestit.h"
 
@@ -53,6 +54,7 @@ void Päivitälukemat(Peli& peli) {
     l.mittarit[3] = {m.Hygienia, true};
     l.tähdetNäkyvät = m.TähtiLukitus;
     l.tähtiä = m.Tähdet;
+    l.sää = peli.näkymä.SääKuva >= 0 ? peli.näkymä.SääKuva : SääKuvaPilvisyydestä(m.Pilvisyys, m.Lämpötila);
     l.Versio = "v " + Str(m.Versio);
 }
 

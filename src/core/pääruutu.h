@@ -26,6 +26,7 @@ struct Lukemat {
     std::array<Mittari, 4> mittarit{};  // feed, store, barn, hygiene
     bool tähdetNäkyvät = false;
     int tähtiä = 0;               // earned stars, shown yellow; the rest black
+    int sää = -1;                 // the weather picture, an index of SÄÄKUVAT; -1 for none
     std::string Versio;           // "v " and Str(Versio)
     std::string Rahatilaz;        // the money plate, as Päivitälukemat sets it
 };

@@ -10,6 +10,12 @@ namespace tanhua {
 
 void Keli(Peli& /*peli*/) {}
 
+int SääKuvaPilvisyydestä(int pilvisyys, int lämpötila) {
+    if (pilvisyys >= 1 && pilvisyys <= 4) return pilvisyys - 1;
+    if (pilvisyys == 5 || pilvisyys == 6) return (lämpötila >= 0 ? 4 : 6) + (pilvisyys - 5);
+    return -1;
+}
+
 LämpötilaNäyttö AsteLuku(int t) {
     auto osa = [](int x) { return std::clamp(x, 0, 255); };
     if (t >= 0) return {"+" + Str(t) + " °c", osa(125 + 5 * t), osa(120 - 2 * t), osa(2 * t)};

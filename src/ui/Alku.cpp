@@ -9,6 +9,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QThread>
 #include <QVBoxLayout>
 
 namespace tanhua::ui {
@@ -40,6 +41,7 @@ Alku::Alku(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     lista_->setObjectName("Lista");
     for (const char* rivi : TAVOITELISTA) lista_->addItem(rivi);
     lista_->setFixedHeight(84);
+    lista_->setStyleSheet("font-size: 11pt;");
     vtaso_ = new QLabel(kortti);
     vtaso_->setObjectName("VTaso");
     vtaso_->setStyleSheet("font-size: 13pt; font-weight: bold;");
@@ -145,13 +147,19 @@ void Alku::Lataus(const std::string& texti, int palkki) {
     texti_->setText(QString::fromStdString(texti));
     palkki_->setValue(std::min(palkki, palkki_->maximum()));
     // The bar steps visibly; with the processor saving on, the load waits a moment each tick.
-    if (peli_.asetukset.Prosessorisäästö) QApplication::processEvents();
+    if (const int tauko = LatauksenTauko(peli_.asetukset); tauko > 0) {
+        QThread::msleep(static_cast<unsigned long>(tauko));
+        QApplication::processEvents();
+    }
 }
 
 void Alku::AloitaUusi() {
     SiirräValinnat();
-    if (tanhua::AloitaUusi(peli_)) if (Aloitettu) Aloitettu();
-    else Päivitä();
+    if (!tanhua::AloitaUusi(peli_)) {
+        Päivitä();
+        return;
+    }
+    if (Aloitettu) Aloitettu();
 }
 
 bool Alku::eventFilter(QObject* kohde, QEvent* tapahtuma) {

@@ -15,20 +15,6 @@
 namespace tanhua::ui {
 
 namespace {
-QLabel* Nimi(const QString& teksti, int koko, QWidget* vanhempi, bool lihava = true) {
-    auto* l = new QLabel(teksti, vanhempi);
-    l->setStyleSheet(QString("color: #24160a; font-size: %1pt; %2").arg(koko).arg(lihava ? "font-weight: bold;" : ""));
-    return l;
-}
-
-QFrame* Paneeli(QWidget* vanhempi, const char* nimi) {
-    auto* f = new QFrame(vanhempi);
-    f->setObjectName(nimi);
-    f->setStyleSheet(QString("#%1 { background: rgba(255, 250, 235, 228); border: 2px solid #6b4a22;"
-                             " border-radius: 10px; }").arg(nimi));
-    return f;
-}
-
 std::string KortinKuva(int kortti) {
     const KorttiRivi& k = KORTIT[kortti];
     const LajiRivi& laji = LAJITAULU[k.laji];
@@ -44,13 +30,8 @@ Eläimet::Eläimet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     setMouseTracking(true);
     AsetaKuva(KuvaJosOn(peli_, "Kuvat/mökki.jpg"));
 
-    aihe_ = Nimi(QString::fromUtf8(AIHE_RUUTU.data(), AIHE_RUUTU.size()), 16, this);
-    aihe_->setObjectName("aihe");
-    aihe_->setStyleSheet(aihe_->styleSheet() + "background: rgba(255,250,235,200); border-radius: 8px; padding: 4px 10px;");
-    ohje_ = Nimi("", 10, this, false);
-    ohje_->setObjectName("Ohje");
-    ohje_->setWordWrap(true);
-    ohje_->setStyleSheet("color: #1f1408; background: rgba(255, 250, 220, 215); border-radius: 6px; padding: 6px;");
+    aihe_ = AiheOtsikko(Sv(AIHE_RUUTU), this);
+    ohje_ = OhjeRivi(this);
     takaisin_ = new QPushButton("Takaisin", this);
     takaisin_->setObjectName("Command1");
     Teksturoi(peli_, takaisin_, "nappi2.jpg", 11, 12);
@@ -109,12 +90,12 @@ QWidget* Eläimet::Kortisto() {
     auto* g = new QGridLayout(kortisto);
     g->setHorizontalSpacing(10);
     g->setVerticalSpacing(2);
-    g->addWidget(Nimi("Naaraat", 11, kortisto), 0, 0, 1, 2);
-    QLabel* urokset = Nimi("Urokset", 11, kortisto);
+    g->addWidget(Teksti("Naaraat", 11, kortisto), 0, 0, 1, 2);
+    QLabel* urokset = Teksti("Urokset", 11, kortisto);
     urokset->setProperty("kohde", static_cast<int>(EläinKohde::Urokset));
     urokset->installEventFilter(this);
     g->addWidget(urokset, 0, 2, 1, 2);
-    QLabel* nuoret = Nimi("Nuoret / Poikaset", 11, kortisto);
+    QLabel* nuoret = Teksti("Nuoret / Poikaset", 11, kortisto);
     nuoret->setProperty("kohde", static_cast<int>(EläinKohde::Nuoret));
     nuoret->installEventFilter(this);
     g->addWidget(nuoret, 0, 4, 1, 2);
@@ -130,7 +111,7 @@ QWidget* Eläimet::Kortisto() {
         kuvat_[kortti]->setProperty("kortti", kortti);
         kuvat_[kortti]->setProperty("kohde", static_cast<int>(EläinKohde::Kuva));
         kuvat_[kortti]->installEventFilter(this);
-        laskurit_[kortti] = Nimi("", 14, kortisto);
+        laskurit_[kortti] = Teksti("", 14, kortisto);
         laskurit_[kortti]->setProperty("kortti", kortti);
         laskurit_[kortti]->setProperty("kohde", static_cast<int>(EläinKohde::Laskuri));
         laskurit_[kortti]->installEventFilter(this);
@@ -140,15 +121,15 @@ QWidget* Eläimet::Kortisto() {
     // The young and the cubs of each species, in the rows of their parents.
     const std::array<Laji, 6> järjestys{Nauta, Lammas, Sika, Kana, Kettu, Hevonen};
     for (int i = 0; i < 6; ++i) {
-        nuoret_[i] = Nimi("", 11, kortisto, false);
-        poikaset_[i] = Nimi("", 11, kortisto, false);
+        nuoret_[i] = Teksti("", 11, kortisto, false);
+        poikaset_[i] = Teksti("", 11, kortisto, false);
         nuoret_[i]->setProperty("laji", static_cast<int>(järjestys[i]));
         g->addWidget(nuoret_[i], 1 + i, 4);
         g->addWidget(poikaset_[i], 1 + i, 5);
     }
-    aikuisia_ = Nimi("", 11, kortisto);
+    aikuisia_ = Teksti("", 11, kortisto);
     aikuisia_->setObjectName("Aikuisia_Eläimiä");
-    pienet_ = Nimi("", 11, kortisto);
+    pienet_ = Teksti("", 11, kortisto);
     pienet_->setObjectName("Pienet_Eläimet");
     g->addWidget(aikuisia_, 7, 0, 1, 4);
     g->addWidget(pienet_, 7, 4, 1, 2);
@@ -157,19 +138,19 @@ QWidget* Eläimet::Kortisto() {
 
 QFrame* Eläimet::Korttipaneeli() {
     QFrame* p = Paneeli(this, "akkuna");
-    otsikko_ = Nimi("", 16, p);
+    otsikko_ = Teksti("", 16, p);
     korttikuva_ = new QLabel(p);
-    info_ = Nimi("", 10, p, false);
+    info_ = Teksti("", 10, p, false);
     info_->setWordWrap(true);
     info_->setMinimumHeight(70);
-    ostohinta_ = Nimi("", 11, p, false);
-    myyntihinta_ = Nimi("", 11, p, false);
-    liha_ = Nimi("", 11, p, false);
-    määrä_ = Nimi("", 14, p);
+    ostohinta_ = Teksti("", 11, p, false);
+    myyntihinta_ = Teksti("", 11, p, false);
+    liha_ = Teksti("", 11, p, false);
+    määrä_ = Teksti("", 14, p);
     määrä_->setObjectName("määrä");
     määrä_->setAlignment(Qt::AlignCenter);
-    yhtosto_ = Nimi("", 11, p);
-    yhtmyynti_ = Nimi("", 11, p);
+    yhtosto_ = Teksti("", 11, p);
+    yhtmyynti_ = Teksti("", 11, p);
     miinus_ = new QPushButton("-", p);
     plus_ = new QPushButton("+", p);
     osta_ = new QPushButton("Osta", p);
@@ -197,7 +178,7 @@ QFrame* Eläimet::Korttipaneeli() {
     g->addWidget(myyntihinta_, 3, 0, 1, 3);
     g->addWidget(liha_, 4, 0, 1, 3);
     auto* erä = new QHBoxLayout;
-    erä->addWidget(Nimi("Määrä :", 11, p, false));
+    erä->addWidget(Teksti("Määrä :", 11, p, false));
     erä->addWidget(miinus_);
     erä->addWidget(määrä_);
     erä->addWidget(plus_);

@@ -77,6 +77,39 @@ void Teksturoi(const Peli& peli, QPushButton* nappi, const char* tekstuuri, int 
     nappi->installEventFilter(new Hover(nappi, perusKoko, hoverKoko));
 }
 
+QLabel* Teksti(const QString& teksti, int koko, QWidget* vanhempi, bool lihava) {
+    auto* l = new QLabel(teksti, vanhempi);
+    l->setStyleSheet(QString("color: #24160a; font-size: %1pt; %2").arg(koko).arg(lihava ? "font-weight: bold;" : ""));
+    return l;
+}
+
+QFrame* Paneeli(QWidget* vanhempi, const char* nimi) {
+    auto* f = new QFrame(vanhempi);
+    f->setObjectName(nimi);
+    f->setStyleSheet(QString("#%1 { background: rgba(255, 250, 235, 228); border: 2px solid #6b4a22;"
+                             " border-radius: 10px; }").arg(nimi));
+    return f;
+}
+
+QLabel* OhjeRivi(QWidget* vanhempi) {
+    auto* l = new QLabel(vanhempi);
+    l->setObjectName("Ohje");
+    l->setWordWrap(true);
+    l->setStyleSheet("color: #1f1408; font-size: 10pt; background: rgba(255, 250, 220, 215); border-radius: 6px;"
+                     " padding: 6px;");
+    return l;
+}
+
+QLabel* AiheOtsikko(const QString& teksti, QWidget* vanhempi) {
+    auto* l = new QLabel(teksti, vanhempi);
+    l->setObjectName("aihe");
+    l->setStyleSheet("color: #24160a; font-size: 16pt; font-weight: bold; background: rgba(255,250,235,200);"
+                     " border-radius: 8px; padding: 4px 10px;");
+    return l;
+}
+
+QString Sv(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+
 void Tausta::paintEvent(QPaintEvent*) {
     QPainter p(this);
     if (kuva_.isNull()) {

@@ -5,11 +5,14 @@
 #include "core/peli.h"
 // Qt
 #include <QPixmap>
+#include <QFrame>
+#include <QLabel>
 #include <QPushButton>
 #include <QWidget>
 #include <QString>
 // std
 #include <string>
+#include <string_view>
 
 namespace tanhua::ui {
 
@@ -25,6 +28,17 @@ std::string S(const QString& s);
 // Gives a button the texture of the program folder (nappi.jpg or nappi2.jpg) and the game's font;
 // the font grows to the hover size while the pointer is over it.
 void Teksturoi(const Peli& peli, QPushButton* nappi, const char* tekstuuri, int perusKoko, int hoverKoko);
+
+// A label of the game's text colour at a point size, bold unless told.
+QLabel* Teksti(const QString& teksti, int koko, QWidget* vanhempi, bool lihava = true);
+// A light, rounded panel over a backdrop, named for its control.
+QFrame* Paneeli(QWidget* vanhempi, const char* nimi);
+// The hint line Ohje of a screen.
+QLabel* OhjeRivi(QWidget* vanhempi);
+// The label aihe that names what the pointer is over.
+QLabel* AiheOtsikko(const QString& teksti, QWidget* vanhempi);
+// A text of a table as Qt text.
+QString Sv(std::string_view s);
 
 // A widget that paints a picture scaled to cover it, behind its children.
 class Tausta : public QWidget {

@@ -48,6 +48,9 @@ public:
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
+    // The month end's snapshot of the window, for the statistics screen.
+    QPixmap KuukaudenvaihdeKuva;
+
     // Tests and the screenshot mode answer the quit question without a person.
     std::function<void()> lopetus = [] { QApplication::quit(); };
 

@@ -55,6 +55,12 @@ bool QtKanavat::Vikalaatikko(const std::string&, int, const std::string& teksti)
     return laatikko.exec() == QMessageBox::Yes;
 }
 
+void QtKanavat::Kuvakaappaus() {
+    // The month's picture is the window as it stands, the report over the main screen.
+    ikkuna_->pino()->setCurrentWidget(ikkuna_->raportti());
+    ikkuna_->KuukaudenvaihdeKuva = ikkuna_->grab();
+}
+
 void QtKanavat::Lataus(const std::string& texti, int palkki) { ikkuna_->alku()->Lataus(texti, palkki); }
 
 }  // namespace tanhua::ui

@@ -25,6 +25,7 @@ public:
     bool ÄäniLaite() override;
     bool Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) override;
     void Lataus(const std::string& texti, int palkki) override;
+    void Kuvakaappaus() override;
 
 private:
     Pääikkuna* ikkuna_ = nullptr;

@@ -39,32 +39,12 @@ void MittariKuva::paintEvent(QPaintEvent*) {
     }
 }
 
-namespace {
-QLabel* Teksti(const QString& teksti, int koko, QWidget* vanhempi, bool lihavoitu = true) {
-    auto* l = new QLabel(teksti, vanhempi);
-    QFont f = l->font();
-    f.setPointSize(koko);
-    f.setBold(lihavoitu);
-    l->setFont(f);
-    l->setStyleSheet("color: #1f1408;");
-    return l;
-}
-
-QWidget* Lasi(QWidget* vanhempi) {
-    auto* w = new QFrame(vanhempi);
-    w->setObjectName("lasi");
-    w->setStyleSheet("#lasi { background: rgba(255, 250, 235, 205); border: 2px solid rgba(90, 60, 30, 160);"
-                     " border-radius: 10px; }");
-    return w;
-}
-}  // namespace
-
 Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     setObjectName("Tanhua");
     setFocusPolicy(Qt::StrongFocus);
 
     // Cash, turnover, date, season, weather and version in one panel at the top left.
-    QWidget* tiedot = Lasi(this);
+    QWidget* tiedot = Paneeli(this, "tiedot");
     auto* t = new QGridLayout(tiedot);
     t->addWidget(Teksti("Raha:", 12, tiedot), 0, 0);
     rahaz_ = Teksti("", 18, tiedot);
@@ -83,11 +63,16 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     asteLuku_ = Teksti("", 14, tiedot);
     asteLuku_->setObjectName("AsteLuku");
     t->addWidget(asteLuku_, 4, 1);
+    sää_ = new QLabel(tiedot);
+    sää_->setObjectName("Sää");
+    t->addWidget(sää_, 3, 0, 2, 1, Qt::AlignCenter);
+    Ohje("Image2", päiväz_);
+    Ohje("Image2", vuodenaikaz_);
     versio_ = Teksti("", 8, tiedot, false);
     t->addWidget(versio_, 5, 0);
 
     // The four gauges.
-    QWidget* mittarit = Lasi(this);
+    QWidget* mittarit = Paneeli(this, "mittarit");
     mittarit->setToolTip("");
     auto* m = new QGridLayout(mittarit);
     const std::array<std::pair<const char*, QColor>, 4> tiedotMittareista{
@@ -126,10 +111,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     lista_->setFocusPolicy(Qt::NoFocus);
 
     // The hint line.
-    ohje_ = Teksti("", 10, this, false);
-    ohje_->setObjectName("Ohje");
-    ohje_->setWordWrap(true);
-    ohje_->setStyleSheet("color: #1f1408; background: rgba(255, 250, 220, 215); border-radius: 6px; padding: 6px;");
+    ohje_ = OhjeRivi(this);
 
     // The buttons of the screens built so far, the next day and the quit.
     command1_ = new QPushButton("Eläimet", this);
@@ -231,6 +213,11 @@ void Tanhua::Päivitä() {
     asteLuku_->setText(QString::fromStdString(aste.teksti));
     asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3);").arg(aste.r).arg(aste.g).arg(aste.b));
     versio_->setText(QString::fromStdString(l.Versio));
+    sää_->setVisible(l.sää >= 0);
+    if (l.sää >= 0) {
+        sää_->setPixmap(KuvaJosOn(peli_, std::string("Kuvat/sää/") + SÄÄKUVAT[l.sää].tiedosto));
+        sää_->setToolTip(SÄÄKUVAT[l.sää].vihje);
+    }
     for (int i = 0; i < 4; ++i) mittarit_[i]->Aseta(l.mittarit[i]);
     const QPixmap keltainen = KuvaJosOn(peli_, "Kuvat/Tähti.gif"), musta = KuvaJosOn(peli_, "Kuvat/Tähti2.gif");
     for (int i = 0; i < 5; ++i) {

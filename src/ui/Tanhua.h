@@ -58,11 +58,10 @@ protected:
     bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
 
 private:
-    QWidget* Paneeli(QWidget* vanhempi);
     void Ohje(const char* kontrolli, QWidget* w);
 
     Peli& peli_;
-    QLabel *rahaz_, *liikevaihtoz_, *liikevaihtoOtsikko_, *päiväz_, *vuodenaikaz_, *asteLuku_, *versio_, *ohje_;
+    QLabel *sää_, *rahaz_, *liikevaihtoz_, *liikevaihtoOtsikko_, *päiväz_, *vuodenaikaz_, *asteLuku_, *versio_, *ohje_;
     std::array<QLabel*, 5> tähdet_{};
     std::array<MittariKuva*, 4> mittarit_{};
     QListWidget* lista_;

@@ -16,21 +16,6 @@
 namespace tanhua::ui {
 
 namespace {
-QLabel* Nimi(const QString& teksti, int koko, QWidget* vanhempi, bool lihava = true) {
-    auto* l = new QLabel(teksti, vanhempi);
-    l->setStyleSheet(QString("color: #24160a; font-size: %1pt; %2").arg(koko).arg(lihava ? "font-weight: bold;" : ""));
-    return l;
-}
-
-QFrame* Paneeli(QWidget* vanhempi, const char* nimi) {
-    auto* f = new QFrame(vanhempi);
-    f->setObjectName(nimi);
-    f->setStyleSheet(QString("#%1 { background: rgba(255, 250, 235, 228); border: 2px solid #6b4a22;"
-                             " border-radius: 10px; }").arg(nimi));
-    return f;
-}
-
-QString Sv(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
 QString Määrä(double x) { return QString::fromStdString(Str(static_cast<float>(x))); }
 }  // namespace
 
@@ -39,13 +24,8 @@ Tuotteet::Tuotteet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     setObjectName("Tuotteet");
     setMouseTracking(true);
     AsetaKuva(KuvaJosOn(peli_, "Kuvat/Tuotteet.jpg"));
-    aihe_ = Nimi(Sv(tuoteruutu::AIHE_RUUTU), 16, this);
-    aihe_->setObjectName("aihe");
-    aihe_->setStyleSheet(aihe_->styleSheet() + "background: rgba(255,250,235,200); border-radius: 8px; padding: 4px 10px;");
-    ohje_ = Nimi("", 10, this, false);
-    ohje_->setObjectName("Ohje");
-    ohje_->setWordWrap(true);
-    ohje_->setStyleSheet("color: #1f1408; background: rgba(255, 250, 220, 215); border-radius: 6px; padding: 6px;");
+    aihe_ = AiheOtsikko(Sv(tuoteruutu::AIHE_RUUTU), this);
+    ohje_ = OhjeRivi(this);
     sulje_ = new QPushButton("Takaisin", this);
     sulje_->setObjectName("Command1");
     Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
@@ -100,7 +80,7 @@ QWidget* Tuotteet::Hylly() {
         kuvat_[k]->setProperty("tuote", k);
         kuvat_[k]->setProperty("kohde", static_cast<int>(TuoteKohde::Kuva));
         kuvat_[k]->installEventFilter(this);
-        varastot_[k] = Nimi("", 10, hylly);
+        varastot_[k] = Teksti("", 10, hylly);
         varastot_[k]->setAlignment(Qt::AlignCenter);
         const int rivinro = (k / 5) * 2, sarake = k % 5;
         g->addWidget(kuvat_[k], rivinro, sarake);
@@ -111,14 +91,14 @@ QWidget* Tuotteet::Hylly() {
 
 QFrame* Tuotteet::Korttipaneeli() {
     QFrame* p = Paneeli(this, "akkuna");
-    nimi_ = Nimi("", 16, p);
+    nimi_ = Teksti("", 16, p);
     korttikuva_ = new QLabel(p);
-    hinta_ = Nimi("", 11, p, false);
-    kurssi_ = Nimi("", 11, p, false);
-    vAika_ = Nimi("", 11, p, false);
-    yhinta_ = Nimi("", 11, p, false);
-    kpl_ = Nimi("", 11, p, false);
-    yhthinta_ = Nimi("", 13, p);
+    hinta_ = Teksti("", 11, p, false);
+    kurssi_ = Teksti("", 11, p, false);
+    vAika_ = Teksti("", 11, p, false);
+    yhinta_ = Teksti("", 11, p, false);
+    kpl_ = Teksti("", 11, p, false);
+    yhthinta_ = Teksti("", 13, p);
     yhthinta_->setObjectName("Yhthinta");
     lisäasetus_ = new QCheckBox(p);
     lisäasetus_->setObjectName("Tuotelisäasetus");
@@ -154,7 +134,7 @@ QFrame* Tuotteet::Korttipaneeli() {
         std::pair{"Perushinta:", hinta_}, std::pair{"Pörssikurssi:", kurssi_}, std::pair{"Vuodenaika :", vAika_},
         std::pair{"Yhteishinta:", yhinta_}, std::pair{"x Tuotteita :", kpl_}, std::pair{"Yhteensä :", yhthinta_}};
     for (int i = 0; i < 6; ++i) {
-        g->addWidget(Nimi(rivit[i].first, 11, p, false), 1 + i, 0);
+        g->addWidget(Teksti(rivit[i].first, 11, p, false), 1 + i, 0);
         g->addWidget(rivit[i].second, 1 + i, 1);
     }
     g->addWidget(lisäasetus_, 7, 0, 1, 3);
@@ -171,7 +151,7 @@ QFrame* Tuotteet::Kirjanpitäjänpaneeli() {
     QFrame* p = Paneeli(this, "Taulu");
     auto* g = new QGridLayout(p);
     g->setVerticalSpacing(1);
-    g->addWidget(Nimi("Kirjanpitäjän automaattinen myynti", 11, p), 0, 0, 1, 4);
+    g->addWidget(Teksti("Kirjanpitäjän automaattinen myynti", 11, p), 0, 0, 1, 4);
     int rivi = 1;
     for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
         const QString nimi = k == Rehu ? QString("Osta rehua") : Sv(TUOTETAULU[k].listaNimi);
@@ -195,9 +175,9 @@ QFrame* Tuotteet::Kirjanpitäjänpaneeli() {
     rulla_ = new QSlider(Qt::Horizontal, p);
     rulla_->setObjectName("rulla");
     rulla_->setRange(0, 1);
-    myyntiAika_ = Nimi("", 11, p);
+    myyntiAika_ = Teksti("", 11, p);
     myyntiAika_->setObjectName("MyyntiAika");
-    g->addWidget(Nimi("Myynti :", 11, p, false), 12, 0);
+    g->addWidget(Teksti("Myynti :", 11, p, false), 12, 0);
     g->addWidget(rulla_, 12, 1);
     g->addWidget(myyntiAika_, 12, 2, 1, 2);
     connect(rulla_, &QSlider::valueChanged, this, [this](int arvo) {
