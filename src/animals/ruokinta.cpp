@@ -38,7 +38,8 @@ void Ruokinta(Peli& peli) {
             päivässä += määrä;
         }
         Lisää(m.Var[Rehu], -päivässä);
-        Lisää(m.Syönti[rivi.laji], Round(päivässä));
+        // The counter is whole: the month's sum is what gets rounded, not the day's share.
+        Lisää(m.Syönti[rivi.laji], päivässä);
     }
 
     // Exactly one kilo left is enough to get through the day.

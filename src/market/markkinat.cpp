@@ -135,7 +135,8 @@ void PörssiRaportti(Peli& peli) {
     RaporttiSivu sivu;
     sivu.otsikko = " Pörssikurssit :" + Str(m.Päivä) + "." + Str(m.Kuukausi) + "." + Str(m.Vuosi);
     sivu.fonttikoko = 10;
-    auto rivi = [&](const std::string& teksti) { sivu.rivit.push_back(RaporttiRivi{MUSTA, 5, teksti}); };
+    // The market page has no tab columns: its nine blanks are its indent.
+    auto rivi = [&](const std::string& teksti) { sivu.rivit.push_back(RaporttiRivi{MUSTA, 0, teksti}); };
     for (const RaporttiNimi& r : RAPORTTINIMET) rivi(reuna + Tasattu(r.nimi) + ": " + Str(m.Kurssi[r.tuote]));
     rivi(reuna);
     // The sum of all twenty indices over 19.

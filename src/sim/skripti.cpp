@@ -158,6 +158,20 @@ void Ajuri::Rivi(const std::string& rivi, std::ostream& ulos) {
         }
     } else if (komento == "dump") {
         for (const Kenttä& k : Kentät(peli)) ulos << k.nimi << '=' << YhdelleRiville(KentänArvo(k)) << '\n';
+    } else if (komento == "trace") {
+        // Each draw is told as an event with the place in the code that took it.
+        if (sanat.size() != 2 || (sanat[1] != "on" && sanat[1] != "off")) Virhe("trace takes on or off");
+        if (sanat[1] == "on") {
+            peli.arvonta.seuranta = [this](double r, const std::source_location& paikka) {
+                std::string tiedosto = paikka.file_name();
+                const auto src = tiedosto.rfind("/src/");
+                if (src != std::string::npos) tiedosto = tiedosto.substr(src + 5);
+                kanavat_.tapahtumat.push_back("ARVONTA|" + Suoraan(Str(r)) + "|" + tiedosto + ":" +
+                                              std::to_string(paikka.line()));
+            };
+        } else {
+            peli.arvonta.seuranta = nullptr;
+        }
     } else if (komento == "events") {
         for (const std::string& t : kanavat_.tapahtumat) ulos << t << '\n';
         kanavat_.tapahtumat.clear();

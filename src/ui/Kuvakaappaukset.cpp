@@ -142,7 +142,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.message()->show();
     ok &= Tallenna(w.message(), kansio, "09-Message-Kyllä-Ei.png");
     w.message()->hide();
-    w.message()->Valmistele("Rahasi eivät riitä!\n\nRahatilanteesi on  1500\nEläin maksaa 5000\nSinulta puuttuu  3500", 0);
+    w.message()->Valmistele("Rahasi eivät riitä!\n\nRahatilanteesi on  1500\nEläin maksaa  5000\nSinulta puuttuu  3500", 0);
     w.message()->show();
     ok &= Tallenna(w.message(), kansio, "10-Message-Sulje.png");
     w.message()->hide();

@@ -34,6 +34,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     message_ = new Message(peli_, this);
 
     alku_->Aloitettu = [this] {
+        LataaKursorit();
         pino_->setCurrentWidget(tanhua_);
         PalaaPääruutuun();
     };
@@ -42,6 +43,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         bool avattu = false;
         Toimi([&] { avattu = JatkaTilannetta(peli_); });
         if (avattu) {
+            LataaKursorit();
             pino_->setCurrentWidget(tanhua_);
             PalaaPääruutuun();
         } else {
@@ -63,6 +65,13 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     if (const QScreen* näyttö = QGuiApplication::primaryScreen())
         koko = koko.boundedTo(näyttö->availableSize());
     resize(koko);
+}
+
+void Pääikkuna::LataaKursorit() {
+    // The game's own pointer, a pitchfork whose tip is the hot spot, when the setting asks for it.
+    if (!peli_.asetukset.Kursorit) return;
+    const QPixmap talikko = KuvaJosOn(peli_, "Kuvat/talikko.ico");
+    if (!talikko.isNull()) setCursor(QCursor(talikko.scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation), 0, 0));
 }
 
 void Pääikkuna::Käynnistä() {

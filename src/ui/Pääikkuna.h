@@ -60,6 +60,7 @@ protected:
 
 private:
     void AsetteleKyltti();
+    void LataaKursorit();
 
     Peli& peli_;
     QStackedWidget* pino_;

@@ -52,6 +52,30 @@ TEST(Feeding, EachKindEatsOnePassMoreThanItsHeads) {
     }
 }
 
+TEST(Feeding, TheMonthsCounterRoundsItsNewSumToEven) {
+    // Five cows on a hectare load it at 50 %: the day's feed is 6 × 3 + 0.5 × (3 + 5 × 2) = 24.5.
+    // The counter holds the sum, so a tie is settled by the parity of the whole sum.
+    struct Tapaus { long ennen; long jälkeen; };
+    const Tapaus tapaukset[] = {
+        {0, 24},    // 24.5 goes to 24
+        {1, 26},    // 25.5 goes to 26, not 1 + 24
+        {2, 26},    // 26.5 goes to 26
+        {10, 34},   // 34.5 goes to 34
+    };
+    for (const Tapaus& c : tapaukset) {
+        Testipeli t;
+        TyhjäLauma(t);
+        t.m.El[Nauta][Naaras] = 5;
+        t.m.Laidun = 1;
+        t.m.Var[Rehu] = 100;
+        t.m.Syönti[Nauta] = c.ennen;
+        Jonoon(t, {0.5, 0.0, 0.0, 0.0, 0.0, 0.0});
+        Ruokinta(t.peli);
+        EXPECT_EQ(t.m.Syönti[Nauta], c.jälkeen) << c.ennen;
+        EXPECT_FLOAT_EQ(t.m.Var[Rehu], 75.5f) << c.ennen;
+    }
+}
+
 TEST(Feeding, StarvationNeedsLessThanOneKiloLeft) {
     struct Tapaus { float rehu; long kanojaJälkeen; float rehuJälkeen; std::size_t arvontojaJäljellä; };
     const Tapaus tapaukset[] = {

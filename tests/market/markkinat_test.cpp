@@ -257,16 +257,16 @@ TEST(PörssiRaportti, PrintsTheIndicesTheAverageAndTheOutlook) {
     const auto tapahtumat = t.Tapahtumat();
     ASSERT_EQ(tapahtumat.size(), 1u + 18 + 3);
     EXPECT_EQ(tapahtumat[0], "RAPORTTI| Pörssikurssit : 14. 3. 1982");
-    EXPECT_EQ(tapahtumat[1], "RIVI|0,0,0|5|         Maito     :  0");
-    EXPECT_EQ(tapahtumat[4], "RIVI|0,0,0|5|         Kananmuna : -1");
-    EXPECT_EQ(tapahtumat[5], "RIVI|0,0,0|5|         Turkikset :  120");
-    EXPECT_EQ(tapahtumat[7], "RIVI|0,0,0|5|         Raakapuu  :  0");
-    EXPECT_EQ(tapahtumat[13], "RIVI|0,0,0|5|         Lannoite  :  4");
-    EXPECT_EQ(tapahtumat[18], "RIVI|0,0,0|5|         Viini     :  0");
-    EXPECT_EQ(tapahtumat[19], "RIVI|0,0,0|5|         ");
+    EXPECT_EQ(tapahtumat[1], "RIVI|0,0,0|0|         Maito     :  0");
+    EXPECT_EQ(tapahtumat[4], "RIVI|0,0,0|0|         Kananmuna : -1");
+    EXPECT_EQ(tapahtumat[5], "RIVI|0,0,0|0|         Turkikset :  120");
+    EXPECT_EQ(tapahtumat[7], "RIVI|0,0,0|0|         Raakapuu  :  0");
+    EXPECT_EQ(tapahtumat[13], "RIVI|0,0,0|0|         Lannoite  :  4");
+    EXPECT_EQ(tapahtumat[18], "RIVI|0,0,0|0|         Viini     :  0");
+    EXPECT_EQ(tapahtumat[19], "RIVI|0,0,0|0|         ");
     // (120 + 4 + 9 - 1) / 19 = 6.9 -> 6
-    EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|5|         Keskiarvo :  6");
-    EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|5|         Yleinen talousnäkymä : Neutraali");
+    EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|0|         Keskiarvo :  6");
+    EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|0|         Yleinen talousnäkymä : Neutraali");
     ASSERT_EQ(t.kanavat.raportit.size(), 1u);
     EXPECT_EQ(t.kanavat.raportit[0].fonttikoko, 10);
     EXPECT_TRUE(t.peli.näkymä.RaporttiAuki);
@@ -288,8 +288,8 @@ TEST(PörssiRaportti, OutlookByTheAverageOverNineteen) {
         PörssiRaportti(t.peli);
         const auto tapahtumat = t.Tapahtumat();
         ASSERT_EQ(tapahtumat.size(), 22u);
-        EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|5|         Keskiarvo : " + c.keskiarvo) << c.summa;
-        EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|5|         Yleinen talousnäkymä : " + c.näkymä) << c.summa;
+        EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|0|         Keskiarvo : " + c.keskiarvo) << c.summa;
+        EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|0|         Yleinen talousnäkymä : " + c.näkymä) << c.summa;
     }
 }
 

@@ -74,6 +74,14 @@ TEST(Runner, SetStoresByWidthAndPrintsWithoutTheBlank) {
               "ÄÄNI|virhe\nVIKA|Tuntematon / määrittämätön|6|Kyllä\nÄÄNI|virhe\nVIKA|Tuntematon / määrittämätön|13|Kyllä\n");
 }
 
+TEST(Runner, TraceTellsWhereEachDrawWasTaken) {
+    const Ajo ajo = Aja("new A Vapaa 1 on\nevents\ntrace on\ndraws 0.25\nset Kuukausi 12\nset Päivä 23\nset Raha 10\n"
+                        "days 1\ntrace off\nevents\n");
+    EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
+    EXPECT_NE(ajo.ulos.find("ARVONTA|.25|core/päivä.cpp:"), std::string::npos) << ajo.ulos;
+    EXPECT_NE(ajo.ulos.find("LISTA|Joululahjaksi  1050"), std::string::npos);
+}
+
 // Each scenario is a script beside its expected output; the first differing line is shown.
 TEST(Scenarios, TranscriptsMatch) {
     int ajettu = 0;
