@@ -96,11 +96,16 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
         Osta(peli);
     }
     Aseta(peli.m.Työ[Kirjanpitäjä], 1);
+    Aseta(peli.m.Koko_Siilo, 600);
+    Aseta(peli.m.Var[Rehu], 600);
     AsetaAutomyynti(peli, Rehu, true);
     AsetaAutomyynti(peli, Muna, true);
-    for (int i = 0; i < 12; ++i) w.SeuraavaPäivä();
-    w.Päivitä();
+    for (int i = 0; i < 11; ++i) w.SeuraavaPäivä();
+    // A day with news in the event list: the store has filled up with milk.
+    Aseta(peli.m.Var[Maito], peli.m.Koko_Varasto);
+    w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "02-Tanhua.png");
+    Aseta(peli.m.Var[Maito], 0);
 
     w.AvaaRuutu(w.eläimet());
     ValitseEläin(peli, KorttiNimellä("Lehmä"));

@@ -109,6 +109,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     lista_->setStyleSheet("QListWidget { background: rgba(255, 252, 240, 225); border: 2px solid #6b4a22;"
                           " border-radius: 6px; font-size: 11pt; }");
     lista_->setFocusPolicy(Qt::NoFocus);
+    lista_->setMaximumSize(640, 240);
 
     // The hint line.
     ohje_ = OhjeRivi(this);
@@ -148,7 +149,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ylä->addWidget(mittarit, 0, Qt::AlignTop);
     auto* keski = new QHBoxLayout;
     keski->addStretch();
-    keski->addWidget(lista_, 2);
+    keski->addWidget(lista_, 2, Qt::AlignTop);
     keski->addStretch();
     auto* ala = new QHBoxLayout;
     ala->addWidget(command1_);
@@ -211,7 +212,8 @@ void Tanhua::Päivitä() {
     vuodenaikaz_->setText(QString::fromStdString(l.Vuodenaikaz));
     const LämpötilaNäyttö aste = AsteLuku(peli_.m.Lämpötila);
     asteLuku_->setText(QString::fromStdString(aste.teksti));
-    asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3);").arg(aste.r).arg(aste.g).arg(aste.b));
+    asteLuku_->setStyleSheet(
+        QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;").arg(aste.r).arg(aste.g).arg(aste.b));
     versio_->setText(QString::fromStdString(l.Versio));
     sää_->setVisible(l.sää >= 0);
     if (l.sää >= 0) {

@@ -183,6 +183,8 @@ TEST(MonthEnd, InsuranceBillUsesThePremiumsOfTheLastRefresh) {
     t.m.Pankki.Vakuutus[VakuutusEläin] = 1;
     t.m.El[Nauta][Naaras] = 10;  // not in the bill until the premiums are refreshed
     t.m.Koko_Navetta = 20;
+    t.m.Koko_Siilo = 1000;  // fed, so that no cow starves on the day
+    t.m.Var[Rehu] = 1000;
     const auto rivit = KuunLoppu(t);
     EXPECT_NE(std::find(rivit.begin(), rivit.end(), "180|5|Vakuutusmaksut : - 53"), rivit.end());
     EXPECT_EQ(t.m.Raha, 10000 - 53);
