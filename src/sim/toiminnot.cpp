@@ -1,5 +1,6 @@
 // The operations a script can call, by their names in the game.
 #include <map>
+#include <stdexcept>
 
 
 #include "buildings/rakennukset.h"
@@ -42,6 +43,11 @@ const Toimintoluettelo& Toiminnot() {
         {"Päivitälukemat", Pelkkä(Päivitälukemat)},
         {"PäiväKulut", Pelkkä(PäiväKulut)},
         // The start screen
+        {"Tanhua.NäytäTähti", Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
+             if (a[0].size() != 1 || a[0][0] < '0' || a[0][0] > '4')
+                 throw std::runtime_error("a star is 0 to 4: '" + a[0] + "'");
+             NäytäTähti(peli, a[0][0] - '0');
+         }}},
         {"Alku.NostaVaikeustasoa", Pelkkä(NostaVaikeustasoa)},
         {"Alku.LaskeVaikeustasoa", Pelkkä(LaskeVaikeustasoa)},
         {"Tilanne.UusiTilanne", Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { UusiTilanne(peli); }}},

@@ -7,6 +7,7 @@
 #include "core/alku.h"
 #include "core/päivä.h"
 #include "core/pääruutu.h"
+#include "core/tähdet.h"
 #include "core/vikatila.h"
 #include "core/viestit.h"
 // Qt
@@ -52,6 +53,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     };
     tanhua_->SeuraavaPäivä = [this] { SeuraavaPäivä(); };
     tanhua_->Lopeta = [this] { Lopeta(); };
+    tanhua_->NäytäTähti = [this](int tähti) { Toimi([this, tähti] { tanhua::NäytäTähti(peli_, tähti); }); };
     tanhua_->AvaaEläimet = [this] { AvaaRuutu(eläimet_); };
     tanhua_->AvaaTuotteet = [this] { AvaaRuutu(tuotteet_); };
     raportti_->Suljettu = [this] {

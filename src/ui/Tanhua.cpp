@@ -99,6 +99,9 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
         tähdet_[i]->setObjectName(QString("TP_Kuva%1").arg(i));
         tähdet_[i]->setToolTip(QString(järjestys[i]) + " tähti. Klikkaa tähteä nähdäksesti mitä sinun on "
                                "saavutettava, jotta tilasi ansaitsee kyseisen tähden.");
+        tähdet_[i]->setProperty("tähti", i);
+        tähdet_[i]->setCursor(Qt::PointingHandCursor);
+        tähdet_[i]->installEventFilter(this);
         tr->addWidget(tähdet_[i]);
     }
 
@@ -178,6 +181,10 @@ bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
             peli_.näkymä.Ohje = Ohjeteksti(kontrolli.toString().toStdString());
             ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
         }
+    }
+    if (tapahtuma->type() == QEvent::MouseButtonPress && kohde->property("tähti").isValid()) {
+        if (NäytäTähti) NäytäTähti(kohde->property("tähti").toInt());
+        return true;
     }
     // Enter held down on the next-day button runs day after day.
     if (tapahtuma->type() == QEvent::KeyPress && kohde == command4_) {

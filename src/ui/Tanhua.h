@@ -52,6 +52,7 @@ public:
 
     // What the frame does for the buttons of the main screen.
     std::function<void()> AvaaEläimet, AvaaTuotteet, SeuraavaPäivä, Lopeta;
+    std::function<void(int)> NäytäTähti;  // a click on star 0..4
 
 protected:
     void keyPressEvent(QKeyEvent* tapahtuma) override;

@@ -203,6 +203,17 @@ TEST(Window, MoneyFormatAndGaugeGuardsOnTheMainScreen) {
     EXPECT_EQ(i.peli.m.Var[Rehu], 0);
 }
 
+TEST(Window, AClickOnAStarTellsWhatItAsks) {
+    Ikkuna i;
+    i.Aloita();
+    QLabel* tähti = i.w->tanhua()->findChild<QLabel*>("TP_Kuva0");
+    ASSERT_NE(tähti, nullptr);
+    EXPECT_TRUE(tähti->isVisible()) << "the stars show with the star lock on";
+    i.VastaaNäppäimellä(Qt::Key_K);
+    QTest::mouseClick(tähti, Qt::LeftButton);
+    EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Tähden saavuttamiseen :\nEläimiä : 10, Siilo : 200, Varasto : 200\n");
+}
+
 TEST(Window, EscAsksBeforeQuitting) {
     for (const auto& [näppäin, lopetetaan] : {std::pair{Qt::Key_E, false}, std::pair{Qt::Key_K, true}}) {
         Ikkuna i;
