@@ -52,10 +52,6 @@ Eläimet::Eläimet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     teuras_ = Teuraspaneeli(false);
     nylky_ = Teuraspaneeli(true);
 
-    auto* ylä = new QHBoxLayout;
-    ylä->addWidget(aihe_);
-    ylä->addStretch();
-    ylä->addSpacing(240);  // room for the money plate
     auto* oikea = new QVBoxLayout;
     akkuna_ = Korttipaneeli();
     oikea->addWidget(akkuna_);
@@ -67,17 +63,7 @@ Eläimet::Eläimet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     oikea->addWidget(teuras_);
     oikea->addWidget(nylky_);
     oikea->addStretch();
-    auto* keski = new QHBoxLayout;
-    keski->addWidget(Kortisto(), 3);
-    keski->addLayout(oikea, 2);
-    auto* ala = new QHBoxLayout;
-    ala->addWidget(ohje_, 1);
-    ala->addWidget(takaisin_, 0, Qt::AlignBottom);
-    auto* pää = new QVBoxLayout(this);
-    pää->setContentsMargins(16, 12, 16, 12);
-    pää->addLayout(ylä);
-    pää->addLayout(keski, 1);
-    pää->addLayout(ala);
+    AsetteleAlaruutu(this, aihe_, Kortisto(), oikea, ohje_, takaisin_);
 
     kohdistin_ = new QLabel(this);
     kohdistin_->setObjectName("Kohdistin");

@@ -6,6 +6,7 @@
 // Qt
 #include <QEvent>
 #include <QHash>
+#include <QBoxLayout>
 #include <QImageReader>
 #include <QPainter>
 
@@ -106,6 +107,24 @@ QLabel* AiheOtsikko(const QString& teksti, QWidget* vanhempi) {
     l->setStyleSheet("color: #24160a; font-size: 16pt; font-weight: bold; background: rgba(255,250,235,200);"
                      " border-radius: 8px; padding: 4px 10px;");
     return l;
+}
+
+void AsetteleAlaruutu(QWidget* ruutu, QLabel* aihe, QWidget* vasen, QLayout* oikea, QLabel* ohje, QPushButton* sulje) {
+    auto* ylä = new QHBoxLayout;
+    ylä->addWidget(aihe);
+    ylä->addStretch();
+    ylä->addSpacing(240);  // room for the money plate
+    auto* keski = new QHBoxLayout;
+    keski->addWidget(vasen, 3);
+    keski->addLayout(oikea, 2);
+    auto* ala = new QHBoxLayout;
+    ala->addWidget(ohje, 1);
+    ala->addWidget(sulje, 0, Qt::AlignBottom);
+    auto* pää = new QVBoxLayout(ruutu);
+    pää->setContentsMargins(16, 12, 16, 12);
+    pää->addLayout(ylä);
+    pää->addLayout(keski, 1);
+    pää->addLayout(ala);
 }
 
 QString Sv(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }

@@ -6,6 +6,7 @@
 // Qt
 #include <QPixmap>
 #include <QFrame>
+#include <QLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
@@ -37,6 +38,9 @@ QFrame* Paneeli(QWidget* vanhempi, const char* nimi);
 QLabel* OhjeRivi(QWidget* vanhempi);
 // The label aihe that names what the pointer is over.
 QLabel* AiheOtsikko(const QString& teksti, QWidget* vanhempi);
+// The frame of a sub-screen: the label aihe at the top (room left for the money plate), the main
+// panel left and the column of panels right, the hint line and the close button at the bottom.
+void AsetteleAlaruutu(QWidget* ruutu, QLabel* aihe, QWidget* vasen, QLayout* oikea, QLabel* ohje, QPushButton* sulje);
 // A text of a table as Qt text.
 QString Sv(std::string_view s);
 

@@ -42,26 +42,12 @@ Tuotteet::Tuotteet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     akkuna_ = Korttipaneeli();
     taulu_ = Kirjanpitäjänpaneeli();
 
-    auto* ylä = new QHBoxLayout;
-    ylä->addWidget(aihe_);
-    ylä->addStretch();
-    ylä->addSpacing(240);  // room for the money plate
     auto* oikea = new QVBoxLayout;
     oikea->addWidget(akkuna_);
     oikea->addWidget(kirjanpitäjä_, 0, Qt::AlignLeft);
     oikea->addWidget(taulu_);
     oikea->addStretch();
-    auto* keski = new QHBoxLayout;
-    keski->addWidget(Hylly(), 3);
-    keski->addLayout(oikea, 2);
-    auto* ala = new QHBoxLayout;
-    ala->addWidget(ohje_, 1);
-    ala->addWidget(sulje_, 0, Qt::AlignBottom);
-    auto* pää = new QVBoxLayout(this);
-    pää->setContentsMargins(16, 12, 16, 12);
-    pää->addLayout(ylä);
-    pää->addLayout(keski, 1);
-    pää->addLayout(ala);
+    AsetteleAlaruutu(this, aihe_, Hylly(), oikea, ohje_, sulje_);
 }
 
 QWidget* Tuotteet::Hylly() {
