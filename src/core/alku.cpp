@@ -205,15 +205,23 @@ bool JatkaTilannetta(Peli& peli) {
     return avattu;
 }
 
+void NollaaRuudut(Peli& peli) {
+    peli.näkymä = Näkymä{};
+    peli.alku = AlkuRuutu{};
+    peli.eläinruutu = EläinRuutuTila{};
+    peli.tuoteruutu = TuoteRuutuTila{};
+    peli.työvoimaruutu = TyövoimaRuutuTila{};
+    peli.rakennusruutu = RakennusRuutuTila{};
+    peli.käynnissä = false;
+}
+
 bool UusiTilanne(Peli& peli) {
     SoitaÄäni(peli, "klik");
     if (!KysyKyllä(peli, "Menetät nykyisen tilanteesi. Oletko aivan varma?")) return false;
     // Every value of the farm and the screens' options go back to their start, settings too.
     peli.m = Muuttujat{};
     peli.asetukset = Asetukset{};
-    peli.näkymä = Näkymä{};
-    peli.alku = AlkuRuutu{};
-    peli.käynnissä = false;
+    NollaaRuudut(peli);
     AlkuLataus(peli);
     return true;
 }

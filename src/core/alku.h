@@ -30,6 +30,8 @@ bool AloitaUusi(Peli& peli);
 void UusiTilanneLataus(Peli& peli);
 // "Jatka tilannetta": opens the last saved farm. Returns true when a farm stands.
 bool JatkaTilannetta(Peli& peli);
+// Every screen back to its start: the main screen's list and news, the start screen, the sub-screens' choices.
+void NollaaRuudut(Peli& peli);
 // "Uusi tilanne": asks, then throws the farm away and goes back to the start screen.
 bool UusiTilanne(Peli& peli);
 

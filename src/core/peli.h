@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "../animals/eläinruutu.h"
+#include "../buildings/rakennusruutu.h"
 #include "../market/tuoteruutu.h"
+#include "../workforce/työvoimaruutu.h"
 #include "arvonta.h"
 #include "kanavat.h"
 #include "pääruutu.h"
@@ -82,6 +84,8 @@ struct Peli {
     AlkuRuutu alku;
     EläinRuutuTila eläinruutu;   // the animal screen's choice while it is open
     TuoteRuutuTila tuoteruutu;   // the product screen's choice while it is open
+    RakennusRuutuTila rakennusruutu;  // the building screen's choice and day labels
+    TyövoimaRuutuTila työvoimaruutu;  // the staff screen's list, choice and labels
     bool käynnissä = false;   // a farm has been started or opened
 };
 

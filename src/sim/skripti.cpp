@@ -73,9 +73,7 @@ void Ajuri::Uusi(const std::vector<std::string>& sanat) {
     if (peli_->käynnissä) {
         // A new farm from the start screen leaves nothing of the last one.
         peli_->m = Muuttujat{};
-        peli_->näkymä = Näkymä{};
-        peli_->alku = AlkuRuutu{};
-        peli_->käynnissä = false;
+        NollaaRuudut(*peli_);
         AlkuLataus(*peli_);
     }
     AlkuRuutu& a = peli_->alku;

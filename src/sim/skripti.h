@@ -29,6 +29,8 @@ const Toimintoluettelo& Toiminnot();
 void EläintenToiminnot(Toimintoluettelo& t);      // the herd's day and month steps
 void EläinkaupanToiminnot(Toimintoluettelo& t);   // the animal screen and slaughter
 void MarkkinoidenToiminnot(Toimintoluettelo& t);  // the market, the product screen and the bank's market report
+void TyövoimanToiminnot(Toimintoluettelo& t);     // the staff screen
+void RakennustenToiminnot(Toimintoluettelo& t);   // the building screen and the work orders
 
 // An operation that takes no arguments.
 Toiminto Pelkkä(void (*f)(Peli&));

@@ -55,6 +55,8 @@ const Toimintoluettelo& Toiminnot() {
         EläintenToiminnot(t);
         EläinkaupanToiminnot(t);
         MarkkinoidenToiminnot(t);
+        TyövoimanToiminnot(t);
+        RakennustenToiminnot(t);
         return t;
     }();
     return toiminnot;

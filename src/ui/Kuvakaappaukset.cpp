@@ -6,7 +6,11 @@
 #include "Pääikkuna.h"
 #include "QtKanavat.h"
 #include "Tuotteet.h"
+#include "Rakennukset.h"
+#include "Työvoima.h"
 #include "animals/kauppa.h"
+#include "buildings/rakentaminen.h"
+#include "workforce/työvoima.h"
 #include "core/kuukausi.h"
 #include "core/päivä.h"
 #include "market/markkinat.h"
@@ -123,6 +127,22 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.Päivitä();
     ok &= Tallenna(&w, kansio, "05-Tuotteet-Kirjanpitäjä.png");
     w.tuotteet()->Command1()->click();
+
+    w.AvaaRuutu(w.rakennukset());
+    ValitseKohde(peli, KohdeNimellä("Navetta"));
+    AskelMäärä(peli, 1);
+    TilaaKohde(peli);
+    ValitseKohde(peli, KohdeNimellä("Teurastamo"));
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "13-Rakennukset.png");
+    w.rakennukset()->Command1()->click();
+
+    w.AvaaRuutu(w.työvoima());
+    ValitseTyöläinen(peli, Siivooja);
+    OtaTöihin(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "14-Työvoima.png");
+    w.työvoima()->Command1()->click();
 
     while (!peli.näkymä.RaporttiAuki) w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "06-Raportti.png");

@@ -4,6 +4,8 @@
 // own
 #include "Eläimet.h"
 #include "Tuotteet.h"
+#include "Työvoima.h"
+#include "Rakennukset.h"
 #include "core/alku.h"
 #include "core/päivä.h"
 #include "core/pääruutu.h"
@@ -27,7 +29,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     raportti_ = new Raportti(peli_, pino_);
     eläimet_ = new Eläimet(peli_, *this, pino_);
     tuotteet_ = new Tuotteet(peli_, *this, pino_);
-    for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_})
+    työvoima_ = new Työvoima(peli_, *this, pino_);
+    rakennukset_ = new Rakennukset(peli_, *this, pino_);
+    for (QWidget* ruutu :
+         std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_, rakennukset_})
         pino_->addWidget(ruutu);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
@@ -56,11 +61,18 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->NäytäTähti = [this](int tähti) { Toimi([this, tähti] { tanhua::NäytäTähti(peli_, tähti); }); };
     tanhua_->AvaaEläimet = [this] { AvaaRuutu(eläimet_); };
     tanhua_->AvaaTuotteet = [this] { AvaaRuutu(tuotteet_); };
+    tanhua_->AvaaTyövoima = [this] { AvaaRuutu(työvoima_); };
+    tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     raportti_->Suljettu = [this] {
         pino_->setCurrentWidget(tanhua_);
         PalaaPääruutuun();
     };
-    uutiset_->Suljettu = [this](const QString&) { Päivitä(); };
+    // The news window goes back where it was opened from: the staff screen, or the main screen.
+    uutiset_->Suljettu = [this](const QString& paluu) {
+        if (paluu == "Työvoima") pino_->setCurrentWidget(työvoima_);
+        else if (pino_->currentWidget() != tanhua_ && OnAlaruutu(pino_->currentWidget())) PalaaPääruutuun();
+        Päivitä();
+    };
 
     // 1024 x 768, or the screen's size when it is smaller.
     QSize koko(1024, 768);
@@ -98,8 +110,12 @@ void Pääikkuna::Päivitä() {
         eläimet_->Päivitä();
     } else if (nyt == tuotteet_) {
         tuotteet_->Päivitä();
+    } else if (nyt == työvoima_) {
+        työvoima_->Päivitä();
+    } else if (nyt == rakennukset_) {
+        rakennukset_->Päivitä();
     }
-    const bool alaruutu = nyt == eläimet_ || nyt == tuotteet_;
+    const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
     if (alaruutu) {
         kyltti_->Päivitä();
@@ -114,6 +130,8 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
         peli_.näkymä.PääruutuNäkyvissä = false;
         if (ruutu == eläimet_) eläimet_->Avaa();
         if (ruutu == tuotteet_) tuotteet_->Avaa();
+        if (ruutu == työvoima_) työvoima_->Avaa();
+        if (ruutu == rakennukset_) rakennukset_->Avaa();
         NäytäRaha(peli_);
     });
     pino_->setCurrentWidget(ruutu);
@@ -141,6 +159,10 @@ void Pääikkuna::Lopeta() {
     bool lopeta = false;
     Toimi([&] { lopeta = LopetaKysymys(peli_); });
     if (lopeta) lopetus();
+}
+
+bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
+    return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

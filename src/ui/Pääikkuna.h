@@ -19,6 +19,8 @@ namespace tanhua::ui {
 
 class Eläimet;
 class Tuotteet;
+class Työvoima;
+class Rakennukset;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -45,6 +47,8 @@ public:
     Message* message() const { return message_; }
     Eläimet* eläimet() const { return eläimet_; }
     Tuotteet* tuotteet() const { return tuotteet_; }
+    Työvoima* työvoima() const { return työvoima_; }
+    Rakennukset* rakennukset() const { return rakennukset_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -60,6 +64,7 @@ protected:
 
 private:
     void AsetteleKyltti();
+    bool OnAlaruutu(QWidget* ruutu) const;
     void LataaKursorit();
 
     Peli& peli_;
@@ -69,6 +74,8 @@ private:
     Raportti* raportti_;
     Eläimet* eläimet_;
     Tuotteet* tuotteet_;
+    Työvoima* työvoima_;
+    Rakennukset* rakennukset_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

@@ -6,12 +6,15 @@
 #include <QTest>
 #include <QTimer>
 
+#include "buildings/taulut/rakennuskatalogi.h"
 #include "storage/tiedostot.h"
 #include "tuki/testipeli.h"
 #include "ui/Eläimet.h"
 #include "ui/Pääikkuna.h"
 #include "ui/QtKanavat.h"
+#include "ui/Rakennukset.h"
 #include "ui/Tuotteet.h"
+#include "ui/Työvoima.h"
 
 namespace tanhua::ui {
 namespace {
@@ -159,6 +162,33 @@ TEST(Window, SellsAndBuysFeedOnTheProductScreen) {
     QTest::keyClick(t, Qt::Key_Escape);  // hides the card
     EXPECT_FALSE(t->akkuna()->isVisible());
     QTest::keyClick(t, Qt::Key_Escape);  // leaves the screen
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+}
+
+TEST(Window, HiresOnTheStaffScreenAndOrdersOnTheBuildingScreen) {
+    Ikkuna i;
+    i.Aloita();
+    QTest::mouseClick(i.w->tanhua()->Command8(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->työvoima());
+    Työvoima* t = i.w->työvoima();
+    EXPECT_EQ(t->Lista()->count(), 4) << "without stars only four jobs are offered";
+    t->Lista()->setCurrentRow(1);  // Siivooja
+    QTest::mouseClick(t->Command3(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.m.Työ[Siivooja], 1);
+    EXPECT_EQ(t->työmies()->text(), " 1");
+    QTest::mouseClick(t->Command1(), Qt::LeftButton);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+
+    QTest::mouseClick(i.w->tanhua()->Command2(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->rakennukset());
+    Rakennukset* r = i.w->rakennukset();
+    QTest::mouseClick(r->Kuva(Työmaa(Navetta)), Qt::LeftButton);
+    EXPECT_EQ(r->hintanäky()->text(), " 2000");
+    QTest::mouseClick(r->Command2(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.m.Raha, 8000);
+    EXPECT_EQ(i.peli.m.RakAika[Työmaa(Navetta)], 7);
+    EXPECT_TRUE(r->Päivät(Työmaa(Navetta))->isVisible());
+    QTest::keyClick(r, Qt::Key_Escape);
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 

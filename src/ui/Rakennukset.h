@@ -1,0 +1,47 @@
+// The building screen: the sixteen targets with their work orders, the chosen target's order panel.
+#pragma once
+
+// own
+#include "Kuvat.h"
+#include "core/peli.h"
+// Qt
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+
+namespace tanhua::ui {
+
+class Pääikkuna;
+
+class Rakennukset : public Tausta {
+public:
+    Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi);
+
+    void Avaa();
+    void Päivitä();
+
+    QLabel* Kuva(std::size_t kohde) const { return kuvat_[kohde]; }
+    QLabel* Päivät(std::size_t kohde) const { return päivät_[kohde]; }
+    QPushButton* Command2() const { return tilaa_; }
+    QPushButton* Plus() const { return plus_; }
+    QPushButton* Miinus() const { return miinus_; }
+    QPushButton* Command1() const { return sulje_; }
+    QLabel* hintanäky() const { return hinta_; }
+
+protected:
+    bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
+    void keyPressEvent(QKeyEvent* tapahtuma) override;
+
+private:
+    QWidget* Työmaat();
+    void Sulje();
+
+    Peli& peli_;
+    Pääikkuna& ikkuna_;
+    std::array<QLabel*, TYÖMAITA> kuvat_{}, päivät_{};
+    QLabel *aihe_, *ohje_, *navettaz_, *siiloz_, *varastoz_;
+    QLabel *nimi_, *korttikuva_, *taso_, *info_, *hinta_, *kesto_, *määrä_;
+    QPushButton *tilaa_, *plus_, *miinus_, *sulje_;
+};
+
+}  // namespace tanhua::ui

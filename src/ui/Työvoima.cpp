@@ -1,0 +1,169 @@
+// The staff screen.
+#include "Työvoima.h"
+
+// own
+#include "Pääikkuna.h"
+#include "workforce/työvoima.h"
+// Qt
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace tanhua::ui {
+
+namespace {
+QString Luku(long long x) { return QString::fromStdString(Str(x)); }
+}  // namespace
+
+Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
+    : Tausta(vanhempi), peli_(peli), ikkuna_(ikkuna) {
+    setObjectName("Työvoima");
+    AsetaKuva(KuvaJosOn(peli_, "Kuvat/kirkonkylä.jpg"));
+    aihe_ = AiheOtsikko("Työvoima", this);
+    ohje_ = OhjeRivi(this);
+    sulje_ = new QPushButton("Takaisin", this);
+    sulje_->setObjectName("Command1");
+    Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
+    sulje_->setMinimumSize(140, 40);
+    connect(sulje_, &QPushButton::clicked, this, &Työvoima::Sulje);
+
+    // The job list on the left.
+    QFrame* vasen = Paneeli(this, "lista");
+    lista_ = new QListWidget(vasen);
+    lista_->setObjectName("Lista");
+    lista_->setStyleSheet("QListWidget { font-size: 12pt; background: transparent; border: none; }");
+    työläisiä_ = Teksti("", 11, vasen);
+    yhtpalk_ = Teksti("", 11, vasen);
+    auto* v = new QVBoxLayout(vasen);
+    v->addWidget(Teksti("Työpaikat :", 12, vasen));
+    v->addWidget(lista_, 1);
+    v->addWidget(työläisiä_);
+    v->addWidget(yhtpalk_);
+    connect(lista_, &QListWidget::currentRowChanged, this, [this](int rivi) {
+        const auto& tarjolla = peli_.työvoimaruutu.Lista;
+        if (rivi < 0 || rivi >= static_cast<int>(tarjolla.size())) return;
+        if (peli_.työvoimaruutu.valittu == static_cast<int>(tarjolla[rivi])) return;
+        const Työläinen k = tarjolla[rivi];
+        ikkuna_.Toimi([this, k] { ValitseTyöläinen(peli_, k); });
+    });
+
+    // The chosen job on the right.
+    QFrame* kortti = Paneeli(this, "tyokortti");
+    työ_ = Teksti("", 16, kortti);
+    kuva_ = new QLabel(kortti);
+    info_ = Teksti("", 10, kortti, false);
+    info_->setWordWrap(true);
+    info_->setMinimumHeight(60);
+    palkka_ = Teksti("", 11, kortti, false);
+    työmies_ = Teksti("", 11, kortti, false);
+    työmies_->setObjectName("työmies");
+    palk_ = Teksti("", 12, kortti);
+    palk_->setObjectName("palk");
+    yliTyö_ = Teksti("", 11, kortti, false);
+    moti_ = Teksti("", 10, kortti, false);
+    stres_ = Teksti("", 10, kortti, false);
+    mittari_ = new QSlider(Qt::Horizontal, kortti);
+    mittari_->setObjectName("mittari");
+    mittari_->setRange(TyövoimaRuutuTila::MITTARI_MIN, TyövoimaRuutuTila::MITTARI_MAX);
+    mittari_->setSingleStep(TyövoimaRuutuTila::MITTARI_PIENI);
+    mittari_->setPageStep(TyövoimaRuutuTila::MITTARI_SUURI);
+    connect(mittari_, &QSlider::valueChanged, this, [this](int arvo) {
+        ikkuna_.Toimi([this, arvo] { SiirräMittaria(peli_, static_cast<Integer>(arvo)); });
+    });
+    ota_ = new QPushButton("Ota töihin", kortti);
+    erota_ = new QPushButton("Erota", kortti);
+    ylityöPäälle_ = new QPushButton("Ylityöt päälle", kortti);
+    ylityöPois_ = new QPushButton("Ylityöt pois", kortti);
+    const std::array<std::pair<QPushButton*, const char*>, 4> napit{
+        std::pair{ota_, "Command3"}, std::pair{erota_, "Command5"}, std::pair{ylityöPäälle_, "Command7"},
+        std::pair{ylityöPois_, "Command6"}};
+    for (auto [nappi, nimi] : napit) {
+        nappi->setObjectName(nimi);
+        Teksturoi(peli_, nappi, "nappi2.jpg", 11, 12);
+        nappi->setMinimumHeight(34);
+    }
+    auto toimi = [this](void (*f)(Peli&)) { return [this, f] { ikkuna_.Toimi([this, f] { f(peli_); NäytäRaha(peli_); }); }; };
+    connect(ota_, &QPushButton::clicked, this, toimi(OtaTöihin));
+    connect(erota_, &QPushButton::clicked, this, toimi(Erota));
+    connect(ylityöPäälle_, &QPushButton::clicked, this, toimi(YlityöPäälle));
+    connect(ylityöPois_, &QPushButton::clicked, this, toimi(YlityöPois));
+    auto* g = new QGridLayout(kortti);
+    g->addWidget(työ_, 0, 0, 1, 2);
+    g->addWidget(kuva_, 0, 2, 3, 1, Qt::AlignRight | Qt::AlignTop);
+    g->addWidget(info_, 1, 0, 1, 2);
+    g->addWidget(Teksti("Peruspalkka :", 11, kortti, false), 3, 0);
+    g->addWidget(palkka_, 3, 1);
+    g->addWidget(Teksti("Palkka / kk :", 11, kortti, false), 4, 0);
+    g->addWidget(palk_, 4, 1);
+    g->addWidget(mittari_, 5, 0, 1, 3);
+    g->addWidget(Teksti("Työntekijöitä :", 11, kortti, false), 6, 0);
+    g->addWidget(työmies_, 6, 1);
+    g->addWidget(Teksti("Ylityöt :", 11, kortti, false), 7, 0);
+    g->addWidget(yliTyö_, 7, 1);
+    auto* palkkaus = new QHBoxLayout;
+    palkkaus->addWidget(ota_);
+    palkkaus->addWidget(erota_);
+    g->addLayout(palkkaus, 8, 0, 1, 3);
+    auto* ylityöt = new QHBoxLayout;
+    ylityöt->addWidget(ylityöPäälle_);
+    ylityöt->addWidget(ylityöPois_);
+    g->addLayout(ylityöt, 9, 0, 1, 3);
+    g->addWidget(moti_, 10, 0, 1, 3);
+    g->addWidget(stres_, 11, 0, 1, 3);
+    auto* oikea = new QVBoxLayout;
+    oikea->addWidget(kortti);
+    oikea->addStretch();
+    AsetteleAlaruutu(this, aihe_, vasen, oikea, ohje_, sulje_);
+}
+
+void Työvoima::Avaa() { AvaaTyövoima(peli_); }
+
+void Työvoima::Päivitä() {
+    const TyövoimaRuutuTila& t = peli_.työvoimaruutu;
+    {
+        const QSignalBlocker esto(lista_);
+        if (lista_->count() != static_cast<int>(t.Lista.size())) {
+            lista_->clear();
+            for (Työläinen k : t.Lista) lista_->addItem(Sv(TYÖLÄISTAULU[k].avain));
+        }
+        int rivi = -1;
+        for (std::size_t i = 0; i < t.Lista.size(); ++i)
+            if (static_cast<int>(t.Lista[i]) == t.valittu) rivi = static_cast<int>(i);
+        lista_->setCurrentRow(rivi);
+    }
+    työläisiä_->setText("Työntekijöitä yhteensä :" + Luku(t.Työläisiä));
+    yhtpalk_->setText("Palkat yhteensä :" + QString::fromStdString(Str(t.yhtpalk)) + " / kk");
+    const bool valittu = t.valittu >= 0;
+    for (QWidget* w : std::initializer_list<QWidget*>{ota_, erota_, mittari_}) w->setEnabled(valittu);
+    työ_->setText(QString::fromStdString(t.työ));
+    kuva_->setPixmap(t.kuva.empty() ? QPixmap()
+                                    : KuvaJosOn(peli_, t.kuva).scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    info_->setText(QString::fromStdString(t.info));
+    palkka_->setText(valittu ? Luku(t.palkka) : QString());
+    työmies_->setText(valittu ? Luku(t.työmies) : QString());
+    palk_->setText(valittu ? Luku(t.palk) : QString());
+    yliTyö_->setText(QString::fromStdString(t.YliTyö));
+    ylityöPäälle_->setEnabled(valittu && t.ylityöNapit);
+    ylityöPois_->setEnabled(valittu && t.ylityöNapit);
+    {
+        const QSignalBlocker esto(mittari_);
+        mittari_->setValue(t.mittari);
+    }
+    mittari_->setEnabled(valittu && t.mittariKäytössä);
+    moti_->setText(QString::fromStdString(t.Moti));
+    stres_->setText(QString::fromStdString(t.Stres));
+    ohje_->setVisible(peli_.m.OhjeetPäällä && !peli_.näkymä.Ohje.empty());
+}
+
+void Työvoima::keyPressEvent(QKeyEvent* tapahtuma) {
+    // The staff screen has no key of its own for closing.
+    Tausta::keyPressEvent(tapahtuma);
+}
+
+void Työvoima::Sulje() {
+    ikkuna_.Toimi([this] { SuljeTyövoima(peli_); });
+    ikkuna_.PalaaPääruutuun();
+}
+
+}  // namespace tanhua::ui
