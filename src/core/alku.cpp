@@ -212,6 +212,7 @@ void NollaaRuudut(Peli& peli) {
     peli.tuoteruutu = TuoteRuutuTila{};
     peli.työvoimaruutu = TyövoimaRuutuTila{};
     peli.rakennusruutu = RakennusRuutuTila{};
+    peli.pankkiruutu = PankkiRuutuTila{};
     peli.käynnissä = false;
 }
 

@@ -7,6 +7,7 @@
 
 #include "../animals/eläinruutu.h"
 #include "../buildings/rakennusruutu.h"
+#include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
 #include "../workforce/työvoimaruutu.h"
 #include "arvonta.h"
@@ -86,6 +87,7 @@ struct Peli {
     TuoteRuutuTila tuoteruutu;   // the product screen's choice while it is open
     RakennusRuutuTila rakennusruutu;  // the building screen's choice and day labels
     TyövoimaRuutuTila työvoimaruutu;  // the staff screen's list, choice and labels
+    PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     bool käynnissä = false;   // a farm has been started or opened
 };
 

@@ -31,6 +31,7 @@ void EläinkaupanToiminnot(Toimintoluettelo& t);   // the animal screen and slau
 void MarkkinoidenToiminnot(Toimintoluettelo& t);  // the market, the product screen and the bank's market report
 void TyövoimanToiminnot(Toimintoluettelo& t);     // the staff screen
 void RakennustenToiminnot(Toimintoluettelo& t);   // the building screen and the work orders
+void PankinToiminnot(Toimintoluettelo& t);        // the bank screen: loan, deposit, insurance
 
 // An operation that takes no arguments.
 Toiminto Pelkkä(void (*f)(Peli&));

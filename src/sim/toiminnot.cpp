@@ -57,6 +57,7 @@ const Toimintoluettelo& Toiminnot() {
         MarkkinoidenToiminnot(t);
         TyövoimanToiminnot(t);
         RakennustenToiminnot(t);
+        PankinToiminnot(t);
         return t;
     }();
     return toiminnot;

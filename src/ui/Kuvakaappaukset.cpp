@@ -6,10 +6,12 @@
 #include "Pääikkuna.h"
 #include "QtKanavat.h"
 #include "Tuotteet.h"
+#include "Pankki.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
 #include "animals/kauppa.h"
 #include "buildings/rakentaminen.h"
+#include "finance/pankki.h"
 #include "workforce/työvoima.h"
 #include "core/kuukausi.h"
 #include "core/päivä.h"
@@ -143,6 +145,14 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.Päivitä();
     ok &= Tallenna(&w, kansio, "14-Työvoima.png");
     w.työvoima()->Command1()->click();
+
+    w.AvaaRuutu(w.pankki());
+    AvaaVakuutukset(peli);
+    VaihdaVakuutus(peli, VakuutusPalo, true);
+    OtaLainaa(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "15-Pankki.png");
+    w.pankki()->Command1()->click();
 
     while (!peli.näkymä.RaporttiAuki) w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "06-Raportti.png");

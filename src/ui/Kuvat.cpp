@@ -119,6 +119,8 @@ void AsetteleAlaruutu(QWidget* ruutu, QLabel* aihe, QWidget* vasen, QLayout* oik
     keski->addLayout(oikea, 2);
     auto* ala = new QHBoxLayout;
     ala->addWidget(ohje, 1);
+    ala->addStretch(0);
+    sulje->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     ala->addWidget(sulje, 0, Qt::AlignBottom);
     auto* pää = new QVBoxLayout(ruutu);
     pää->setContentsMargins(16, 12, 16, 12);

@@ -6,6 +6,8 @@
 #include "Tuotteet.h"
 #include "Työvoima.h"
 #include "Rakennukset.h"
+#include "Pankki.h"
+#include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
 #include "core/pääruutu.h"
@@ -31,8 +33,9 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tuotteet_ = new Tuotteet(peli_, *this, pino_);
     työvoima_ = new Työvoima(peli_, *this, pino_);
     rakennukset_ = new Rakennukset(peli_, *this, pino_);
-    for (QWidget* ruutu :
-         std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_, rakennukset_})
+    pankki_ = new Pankki(peli_, *this, pino_);
+    for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
+                                                          rakennukset_, pankki_})
         pino_->addWidget(ruutu);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
@@ -63,7 +66,14 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaTuotteet = [this] { AvaaRuutu(tuotteet_); };
     tanhua_->AvaaTyövoima = [this] { AvaaRuutu(työvoima_); };
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
+    tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     raportti_->Suljettu = [this] {
+        // The market report goes back to the bank, the month's report to the main screen.
+        if (peli_.pankkiruutu.auki) {
+            pino_->setCurrentWidget(pankki_);
+            Päivitä();
+            return;
+        }
         pino_->setCurrentWidget(tanhua_);
         PalaaPääruutuun();
     };
@@ -114,6 +124,8 @@ void Pääikkuna::Päivitä() {
         työvoima_->Päivitä();
     } else if (nyt == rakennukset_) {
         rakennukset_->Päivitä();
+    } else if (nyt == pankki_) {
+        pankki_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -132,6 +144,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
         if (ruutu == tuotteet_) tuotteet_->Avaa();
         if (ruutu == työvoima_) työvoima_->Avaa();
         if (ruutu == rakennukset_) rakennukset_->Avaa();
+        if (ruutu == pankki_) pankki_->Avaa();
         NäytäRaha(peli_);
     });
     pino_->setCurrentWidget(ruutu);
@@ -155,6 +168,14 @@ void Pääikkuna::SeuraavaPäivä() {
     if (pino_->currentWidget() == tanhua_ && tanhua_->isEnabled()) tanhua_->Command4()->setFocus();
 }
 
+void Pääikkuna::NäytäPörssiraportti() {
+    Toimi([this] { PörssiRaportti(peli_); });
+    if (peli_.näkymä.RaporttiAuki) {
+        pino_->setCurrentWidget(raportti_);
+        kyltti_->hide();
+    }
+}
+
 void Pääikkuna::Lopeta() {
     bool lopeta = false;
     Toimi([&] { lopeta = LopetaKysymys(peli_); });
@@ -162,7 +183,7 @@ void Pääikkuna::Lopeta() {
 }
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
-    return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_;
+    return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

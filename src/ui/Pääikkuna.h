@@ -21,6 +21,7 @@ class Eläimet;
 class Tuotteet;
 class Työvoima;
 class Rakennukset;
+class Pankki;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -38,6 +39,8 @@ public:
     void PalaaPääruutuun();
     void SeuraavaPäivä();
     void Lopeta();
+    // "Pörssikurssit": the market report over the bank, which goes back to the bank when closed.
+    void NäytäPörssiraportti();
 
     Alku* alku() const { return alku_; }
     Tanhua* tanhua() const { return tanhua_; }
@@ -49,6 +52,7 @@ public:
     Tuotteet* tuotteet() const { return tuotteet_; }
     Työvoima* työvoima() const { return työvoima_; }
     Rakennukset* rakennukset() const { return rakennukset_; }
+    Pankki* pankki() const { return pankki_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -76,6 +80,7 @@ private:
     Tuotteet* tuotteet_;
     Työvoima* työvoima_;
     Rakennukset* rakennukset_;
+    Pankki* pankki_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

@@ -124,19 +124,22 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     command2_->setToolTip("Jalostus rakennukset");
     command3_ = new QPushButton("Tuotteet", this);
     command3_->setToolTip("Ostettavat ja myytävät tuotteet");
+    command6_ = new QPushButton("Pankkiasiat", this);
+    command6_->setToolTip("Laina ja talletus");
     command8_ = new QPushButton("Työvoima", this);
     command8_->setToolTip("Työntekijöiden palkkaaminen");
     command4_ = new QPushButton("Seuraava päivä", this);
     command4_->setToolTip("Päivän kulutus (Enter pohjassa pikavalinta)");
     lopetus_ = new QPushButton("Lopeta peli", this);
     lopetus_->setToolTip("Lopeta pelaaminen");
-    const std::array<std::pair<QPushButton*, const char*>, 6> napit{
+    const std::array<std::pair<QPushButton*, const char*>, 7> napit{
         std::pair{command1_, "Command1"}, std::pair{command2_, "Command2"}, std::pair{command3_, "Command3"},
-        std::pair{command8_, "Command8"}, std::pair{command4_, "Command4"}, std::pair{lopetus_, "Lopetus"}};
+        std::pair{command6_, "Command6"}, std::pair{command8_, "Command8"}, std::pair{command4_, "Command4"},
+        std::pair{lopetus_, "Lopetus"}};
     for (auto [nappi, nimi] : napit) {
         nappi->setObjectName(nimi);
         Teksturoi(peli_, nappi, "nappi.jpg", 12, 14);
-        nappi->setMinimumSize(136, 46);
+        nappi->setMinimumSize(118, 46);
         Ohje(nimi, nappi);
         nappi->installEventFilter(this);
     }
@@ -145,6 +148,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(command1_, &QPushButton::clicked, this, [this] { if (AvaaEläimet) AvaaEläimet(); });
     connect(command3_, &QPushButton::clicked, this, [this] { if (AvaaTuotteet) AvaaTuotteet(); });
     connect(command2_, &QPushButton::clicked, this, [this] { if (AvaaRakennukset) AvaaRakennukset(); });
+    connect(command6_, &QPushButton::clicked, this, [this] { if (AvaaPankki) AvaaPankki(); });
     connect(command8_, &QPushButton::clicked, this, [this] { if (AvaaTyövoima) AvaaTyövoima(); });
     connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
     connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
@@ -164,6 +168,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->addWidget(command1_);
     ala->addWidget(command2_);
     ala->addWidget(command3_);
+    ala->addWidget(command6_);
     ala->addWidget(command8_);
     ala->addStretch();
     ala->addWidget(command4_);

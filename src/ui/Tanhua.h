@@ -45,6 +45,7 @@ public:
     QPushButton* Command1() const { return command1_; }
     QPushButton* Command2() const { return command2_; }
     QPushButton* Command3() const { return command3_; }
+    QPushButton* Command6() const { return command6_; }
     QPushButton* Command8() const { return command8_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
@@ -53,7 +54,7 @@ public:
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
 
     // What the frame does for the buttons of the main screen.
-    std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaTyövoima, SeuraavaPäivä, Lopeta;
+    std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, SeuraavaPäivä, Lopeta;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
 
 protected:
@@ -68,7 +69,7 @@ private:
     std::array<QLabel*, 5> tähdet_{};
     std::array<MittariKuva*, 4> mittarit_{};
     QListWidget* lista_;
-    QPushButton *command1_, *command2_, *command3_, *command8_, *command4_, *lopetus_;
+    QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command4_, *lopetus_;
     std::string tausta_;
 };
 

@@ -12,6 +12,7 @@
 #include "ui/Eläimet.h"
 #include "ui/Pääikkuna.h"
 #include "ui/QtKanavat.h"
+#include "ui/Pankki.h"
 #include "ui/Rakennukset.h"
 #include "ui/Tuotteet.h"
 #include "ui/Työvoima.h"
@@ -189,6 +190,31 @@ TEST(Window, HiresOnTheStaffScreenAndOrdersOnTheBuildingScreen) {
     EXPECT_EQ(i.peli.m.RakAika[Työmaa(Navetta)], 7);
     EXPECT_TRUE(r->Päivät(Työmaa(Navetta))->isVisible());
     QTest::keyClick(r, Qt::Key_Escape);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+}
+
+TEST(Window, TakesALoanAndReadsTheMarketReportAtTheBank) {
+    Ikkuna i;
+    i.Aloita();
+    QTest::mouseClick(i.w->tanhua()->Command6(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->pankki());
+    Pankki* p = i.w->pankki();
+    QTest::mouseClick(p->Command2(), Qt::LeftButton);
+    ASSERT_TRUE(p->summa()->isVisible());
+    p->summa()->clear();
+    QTest::keyClicks(p->summa(), "3000");
+    QTest::mouseClick(p->Command8(), Qt::LeftButton);
+    EXPECT_EQ(i.peli.m.Laina, 3000);
+    EXPECT_EQ(i.peli.m.Raha, 13000);
+    EXPECT_EQ(p->lainaz()->text(), "3000");
+    EXPECT_FALSE(p->Command8()->isEnabled()) << "one loan a sheet";
+    QTest::mouseClick(p->Command6(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->raportti());
+    EXPECT_EQ(i.w->raportti()->Sivu().fonttikoko, 10);
+    QTest::mouseClick(i.w->raportti()->Command1(), Qt::LeftButton);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->pankki()) << "the market report goes back to the bank";
+    QTest::keyClick(p, Qt::Key_Escape);  // hides the sheet
+    QTest::keyClick(p, Qt::Key_Escape);  // leaves the bank
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 

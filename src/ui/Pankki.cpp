@@ -1,0 +1,210 @@
+// The bank screen.
+#include "Pankki.h"
+
+// own
+#include "Pääikkuna.h"
+#include "finance/pankki.h"
+#include "finance/taulut/pankki.h"
+#include "market/markkinat.h"
+// Qt
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace tanhua::ui {
+
+namespace {
+QPushButton* Nappi(const Peli& peli, const char* teksti, const char* nimi, QWidget* vanhempi) {
+    auto* n = new QPushButton(teksti, vanhempi);
+    n->setObjectName(nimi);
+    Teksturoi(peli, n, "nappi2.jpg", 11, 12);
+    n->setMinimumHeight(34);
+    return n;
+}
+}  // namespace
+
+Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli), ikkuna_(ikkuna) {
+    setObjectName("Pankki");
+    AsetaKuva(KuvaJosOn(peli_, "Kuvat/pankki.jpg"));
+    aihe_ = AiheOtsikko("Pankki", this);
+    ohje_ = OhjeRivi(this);
+    sulje_ = new QPushButton("Takaisin", this);
+    sulje_->setObjectName("Command1");
+    Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
+    sulje_->setMinimumSize(140, 40);
+    connect(sulje_, &QPushButton::clicked, this, &Pankki::Sulje);
+
+    QFrame* tili = Paneeli(this, "tili");
+    lainaz_ = Teksti("", 14, tili);
+    lainaz_->setObjectName("lainaz");
+    tiliz_ = Teksti("", 14, tili);
+    maksuaikaz_ = Teksti("", 12, tili);
+    otaLainaa_ = Nappi(peli_, "Ota lainaa", "Command2", tili);
+    maksa_ = Nappi(peli_, "Maksa lainat", "Command3", tili);
+    talleta_ = Nappi(peli_, "Talleta rahaa", "Command4", tili);
+    nosta_ = Nappi(peli_, "Nosta talletukset", "Command5", tili);
+    pörssi_ = Nappi(peli_, "Pörssikurssit", "Command6", tili);
+    vaku_ = Nappi(peli_, "Vakuutukset", "vaku", tili);
+    connect(otaLainaa_, &QPushButton::clicked, this, [this] { Toimi(OtaLainaa); });
+    connect(maksa_, &QPushButton::clicked, this, [this] { Toimi(MaksaLaina); });
+    connect(talleta_, &QPushButton::clicked, this, [this] { Toimi(TalletaRahaa); });
+    connect(nosta_, &QPushButton::clicked, this, [this] { Toimi(NostaTalletukset); });
+    connect(vaku_, &QPushButton::clicked, this, [this] { Toimi(AvaaVakuutukset); });
+    connect(pörssi_, &QPushButton::clicked, this, [this] { ikkuna_.NäytäPörssiraportti(); });
+    auto* g = new QGridLayout(tili);
+    g->addWidget(Teksti("Laina :", 12, tili, false), 0, 0);
+    g->addWidget(lainaz_, 0, 1);
+    g->addWidget(Teksti("Lyhennysvapaata, kk :", 12, tili, false), 1, 0);
+    g->addWidget(maksuaikaz_, 1, 1);
+    g->addWidget(Teksti("Talletukset :", 12, tili, false), 2, 0);
+    g->addWidget(tiliz_, 2, 1);
+    g->addWidget(otaLainaa_, 3, 0);
+    g->addWidget(maksa_, 3, 1);
+    g->addWidget(talleta_, 4, 0);
+    g->addWidget(nosta_, 4, 1);
+    g->addWidget(pörssi_, 5, 0);
+    g->addWidget(vaku_, 5, 1);
+    g->setRowStretch(6, 1);
+
+    lappu_ = Lappu();
+    vakuLappu_ = VakuLappu();
+    auto* oikea = new QVBoxLayout;
+    oikea->addWidget(lappu_);
+    oikea->addWidget(vakuLappu_);
+    oikea->addStretch();
+    AsetteleAlaruutu(this, aihe_, tili, oikea, ohje_, sulje_);
+}
+
+QFrame* Pankki::Lappu() {
+    QFrame* p = Paneeli(this, "Lappu");
+    otsikko_ = Teksti("", 15, p);
+    teksti_ = Teksti("", 10, p, false);
+    teksti_->setWordWrap(true);
+    summa_ = new QLineEdit(p);
+    summa_->setObjectName("summa");
+    summa_->setStyleSheet("font-size: 13pt; padding: 3px;");
+    connect(summa_, &QLineEdit::textEdited, this, [this](const QString& teksti) {
+        KirjoitaSumma(peli_, teksti.toStdString());
+    });
+    aikaz_ = Teksti("", 12, p);
+    prossa_ = Teksti("", 12, p);
+    aikaAlas_ = Nappi(peli_, "<", "Command9", p);
+    aikaYlös_ = Nappi(peli_, ">", "Command10", p);
+    vahvista_ = Nappi(peli_, "Hyväksy", "Command8", p);
+    suljeLappu_ = Nappi(peli_, "Sulje", "Command7", p);
+    connect(aikaAlas_, &QPushButton::clicked, this, [this] { Toimi(LyhennäMaksuaikaa); });
+    connect(aikaYlös_, &QPushButton::clicked, this, [this] { Toimi(PidennäMaksuaikaa); });
+    connect(vahvista_, &QPushButton::clicked, this, [this] { Toimi(VahvistaLappu); });
+    connect(suljeLappu_, &QPushButton::clicked, this, [this] { Toimi(SuljeLappu); });
+    connect(summa_, &QLineEdit::returnPressed, vahvista_, &QPushButton::click);
+    auto* g = new QGridLayout(p);
+    g->addWidget(otsikko_, 0, 0, 1, 4);
+    g->addWidget(teksti_, 1, 0, 1, 4);
+    g->addWidget(Teksti("Summa :", 11, p, false), 2, 0);
+    g->addWidget(summa_, 2, 1, 1, 3);
+    g->addWidget(aikaAlas_, 3, 0);
+    g->addWidget(aikaz_, 3, 1, Qt::AlignCenter);
+    g->addWidget(aikaYlös_, 3, 2);
+    g->addWidget(prossa_, 3, 3);
+    g->addWidget(vahvista_, 4, 0, 1, 2);
+    g->addWidget(suljeLappu_, 4, 2, 1, 2);
+    p->hide();
+    return p;
+}
+
+QFrame* Pankki::VakuLappu() {
+    QFrame* p = Paneeli(this, "VakuLappu");
+    auto* g = new QGridLayout(p);
+    g->addWidget(Teksti("Vakuutukset", 15, p), 0, 0, 1, 2);
+    g->addWidget(Teksti("Rastita haluamasi vakuutukset listalta.", 10, p, false), 1, 0, 1, 2);
+    for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
+        const VakuutusRivi& rivi = VAKUUTUSTAULU[v];
+        vakuutukset_[v] = new QCheckBox(Sv(rivi.nimi), p);
+        vakuutukset_[v]->setObjectName(Sv(rivi.laatikko));
+        vakuutukset_[v]->setStyleSheet("color: #24160a;");
+        vakuutukset_[v]->setProperty("vakuutus", v);
+        vakuutukset_[v]->installEventFilter(this);
+        maksut_[v] = Teksti("", 11, p);
+        g->addWidget(vakuutukset_[v], 2 + v, 0);
+        g->addWidget(maksut_[v], 2 + v, 1, Qt::AlignRight);
+        connect(vakuutukset_[v], &QCheckBox::clicked, this, [this, v](bool päällä) {
+            ikkuna_.Toimi([this, v, päällä] { VaihdaVakuutus(peli_, static_cast<tanhua::Vakuutus>(v), päällä); });
+        });
+    }
+    vakusumma_ = Teksti("", 12, p);
+    vakusumma_->setObjectName("Vakusummaz");
+    vakuinfo_ = Teksti("", 10, p, false);
+    vakuinfo_->setObjectName("Vakuinfo");
+    vakuinfo_->setWordWrap(true);
+    vakuinfo_->setMinimumHeight(40);
+    vakuinfo_->setProperty("vakuutus", -1);
+    vakuinfo_->installEventFilter(this);
+    suljeVaku_ = Nappi(peli_, "Sulje", "Command11", p);
+    connect(suljeVaku_, &QPushButton::clicked, this, [this] { Toimi(SuljeVakuutukset); });
+    g->addWidget(Teksti("Vakuutusmaksut yhteensä :", 11, p, false), 7, 0);
+    g->addWidget(vakusumma_, 7, 1, Qt::AlignRight);
+    g->addWidget(vakuinfo_, 8, 0, 1, 2);
+    g->addWidget(suljeVaku_, 9, 0, 1, 2);
+    p->hide();
+    return p;
+}
+
+void Pankki::Toimi(void (*f)(Peli&)) {
+    ikkuna_.Toimi([this, f] {
+        f(peli_);
+        NäytäRaha(peli_);
+    });
+}
+
+void Pankki::Avaa() { AvaaPankki(peli_); }
+
+void Pankki::Päivitä() {
+    const PankkiRuutuTila& t = peli_.pankkiruutu;
+    lainaz_->setText(QString::fromStdString(t.lainaz));
+    tiliz_->setText(QString::fromStdString(t.tiliz));
+    maksuaikaz_->setText(QString::fromStdString(t.Maksuaikaz));
+    lappu_->setVisible(t.Lappu);
+    otsikko_->setText(QString::fromStdString(t.otsikko));
+    teksti_->setText(QString::fromStdString(t.teksti));
+    if (summa_->text().toStdString() != t.summa) summa_->setText(QString::fromStdString(t.summa));
+    for (QWidget* w : std::initializer_list<QWidget*>{aikaz_, prossa_, aikaAlas_, aikaYlös_}) w->setVisible(t.aikaNäkyvissä);
+    aikaz_->setText(QString::fromStdString(t.aikaz));
+    prossa_->setText(QString::fromStdString(t.prossa) + " ‰ / kk");
+    vahvista_->setEnabled(t.Command8);
+    vakuLappu_->setVisible(t.VakuLappu);
+    for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
+        vakuutukset_[v]->setChecked(peli_.m.Pankki.Vakuutus[v] == 1);
+        maksut_[v]->setText(QString::fromStdString(peli_.m.Pankki.Vakumaksu[v]));
+    }
+    vakusumma_->setText(QString::fromStdString(t.Vakusummaz) + " / kk");
+    vakuinfo_->setText(QString::fromStdString(t.Vakuinfo));
+    ohje_->setVisible(false);
+}
+
+bool Pankki::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+    if (tapahtuma->type() == QEvent::Enter && kohde->property("vakuutus").isValid()) {
+        const int v = kohde->property("vakuutus").toInt();
+        ikkuna_.Toimi([this, v] { OsoitinVakuutukseen(peli_, v); });
+    }
+    return Tausta::eventFilter(kohde, tapahtuma);
+}
+
+void Pankki::keyPressEvent(QKeyEvent* tapahtuma) {
+    if (tapahtuma->key() == Qt::Key_Escape) {
+        // With a sheet showing, Esc hides both sheets; otherwise it leaves the bank.
+        const bool lappuAuki = peli_.pankkiruutu.Lappu || peli_.pankkiruutu.VakuLappu;
+        ikkuna_.Toimi([this] { PankkiEsc(peli_); });
+        if (!lappuAuki) ikkuna_.PalaaPääruutuun();
+        return;
+    }
+    Tausta::keyPressEvent(tapahtuma);
+}
+
+void Pankki::Sulje() {
+    ikkuna_.Toimi([this] { SuljePankki(peli_); });
+    ikkuna_.PalaaPääruutuun();
+}
+
+}  // namespace tanhua::ui
