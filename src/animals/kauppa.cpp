@@ -23,17 +23,6 @@ void PäivitäSummat(EläinRuutuTila& r) {
     Aseta(r.yhtmyynti, static_cast<double>(r.myyntihinta) * r.määrä);
 }
 
-std::string Rivit(std::initializer_list<std::string> rivit) {
-    std::string t;
-    bool ensimmäinen = true;
-    for (const std::string& rivi : rivit) {
-        if (!ensimmäinen) t += '\n';
-        t += rivi;
-        ensimmäinen = false;
-    }
-    return t;
-}
-
 }  // namespace
 
 int KorttiNimellä(std::string_view nimi) {
@@ -119,7 +108,7 @@ void Osta(Peli& peli) {
 
     if (Int(r.yhtosto) > m.Raha) {
         const std::string hinta = (r.määrä == 1 ? "Eläin maksaa " : "Eläimet maksaa ") + Str(r.yhtosto);
-        Kieltäydy(peli, Rivit({"Rahasi eivät riitä!", "", "Rahatilanteesi on " + Str(m.Raha), hinta,
+        Kieltäydy(peli, Rivitä({"Rahasi eivät riitä!", "", "Rahatilanteesi on " + Str(m.Raha), hinta,
                                "Sinulta puuttuu " + Str(Int(r.yhtosto) - m.Raha)}));
         return;
     }
@@ -155,7 +144,7 @@ void Myy(Peli& peli) {
     Muuttujat& m = peli.m;
     Long& päät = KortinPäät(m, r.kortti);
     if (r.määrä > päät) {
-        Kieltäydy(peli, Rivit({"Tarkasta eläinten määrä!", "", "Olet myymässä " + Str(r.määrä) + " eläintä", ""}));
+        Kieltäydy(peli, Rivitä({"Tarkasta eläinten määrä!", "", "Olet myymässä " + Str(r.määrä) + " eläintä", ""}));
         return;
     }
     // Animals are no turnover: only the cash moves.

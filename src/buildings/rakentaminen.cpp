@@ -13,17 +13,6 @@ namespace tanhua {
 
 namespace {
 
-std::string Rivit(std::initializer_list<std::string> rivit) {
-    std::string t;
-    bool ensimmäinen = true;
-    for (const std::string& rivi : rivit) {
-        if (!ensimmäinen) t += '\n';
-        t += rivi;
-        ensimmäinen = false;
-    }
-    return t;
-}
-
 const KatalogiRivi& Rivi(std::size_t kohde) { return RAKENNUSKATALOGI[kohde]; }
 
 }  // namespace
@@ -150,7 +139,7 @@ void TilaaKohde(Peli& peli) {
 
     // Exactly enough money is enough.
     if (r.hinta > m.Raha) {
-        Kieltäydy(peli, Rivit({"Rahasi eivät riitä!", "", "Rahatilanteesi on " + Str(m.Raha),
+        Kieltäydy(peli, Rivitä({"Rahasi eivät riitä!", "", "Rahatilanteesi on " + Str(m.Raha),
                                "Rakennus maksaa " + Str(r.hinta),
                                "Sinulta puuttuu " + Str(CSng(static_cast<double>(r.hinta) - m.Raha))}));
         return;
@@ -165,7 +154,7 @@ void TilaaKohde(Peli& peli) {
     } else {
         // The stable stands on pasture, so no pasture is told before any lock.
         if (kohde == Hevostalli && m.Laidun == 0) {
-            Kieltäydy(peli, Rivit({"Et voi rakentaa hevostallia!", "", "Sinulla ei ole laidunaluetta hevosille.",
+            Kieltäydy(peli, Rivitä({"Et voi rakentaa hevostallia!", "", "Sinulla ei ole laidunaluetta hevosille.",
                                    "Hevostallisi rakennetaan laitumelle ja tarvitset siihen laidunaluetta."}));
             return;
         }
@@ -173,14 +162,14 @@ void TilaaKohde(Peli& peli) {
             const std::string syy =
                 m.Tähdet == 0 ? std::string("Et ole saavuttanut vielä yhtään tähteä tilallesi ja tämän takia kohde on lukittu.")
                               : "Tilasi on vasta " + Str(m.Tähdet) + " tähden tila ja tämän takia kohde on lukittu.";
-            Ilmoita(peli, Rivit({"Et voi rakentaa lukittua rakennusta!",
+            Ilmoita(peli, Rivitä({"Et voi rakentaa lukittua rakennusta!",
                                  syy + "Laajentamalla tilaasi saavutat tarvittavat tähdet, jotta saat poistettua lukituksen."}));
             return;
         }
         // One work order at a time on a building.
         if (m.RakAika[kohde] > 0) {
             r.info = std::string(TEKSTI_PARHAILLAAN);
-            Kieltäydy(peli, Rivit({"Olet jo antanut työmääräyksen laajentaa rakennustasi!", "",
+            Kieltäydy(peli, Rivitä({"Olet jo antanut työmääräyksen laajentaa rakennustasi!", "",
                                    "Et voi laajentaa enempää, kunnes edellinen laajennus on valmis.",
                                    "Kun päivät ovat kuluneet nollaan, on rakennus valmis ja voit taas aloittaa laajentamisen.",
                                    "Huomioi, että lautojen toimittaminen rakennukselle nopeuttaa prosessia.", ""}));

@@ -6,6 +6,15 @@
 
 namespace tanhua {
 
+std::string Rivitä(std::initializer_list<std::string> rivit) {
+    std::string t;
+    for (const std::string& rivi : rivit) {
+        if (!t.empty() || &rivi != rivit.begin()) t += '\n';
+        t += rivi;
+    }
+    return t;
+}
+
 std::string Kysy(Peli& peli, const std::string& teksti, int tyyli) {
     Näkymä& n = peli.näkymä;
     n.MsgTeksti = teksti;

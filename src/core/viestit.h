@@ -1,11 +1,15 @@
 // The game's side of the channels: the Message box, the news window, the event list and sounds.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 
 namespace tanhua {
 
 struct Peli;
+
+// The lines of a message joined by line feeds.
+std::string Rivitä(std::initializer_list<std::string> rivit);
 
 // Asks through the Message box (style 0: "Sulje"; style 1: "Kyllä"/"Ei") and returns the answer.
 std::string Kysy(Peli& peli, const std::string& teksti, int tyyli);
