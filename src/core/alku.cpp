@@ -213,6 +213,7 @@ void NollaaRuudut(Peli& peli) {
     peli.työvoimaruutu = TyövoimaRuutuTila{};
     peli.rakennusruutu = RakennusRuutuTila{};
     peli.pankkiruutu = PankkiRuutuTila{};
+    peli.tarvikeruutu = TarvikeRuutuTila{};
     peli.käynnissä = false;
 }
 

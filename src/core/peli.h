@@ -7,6 +7,7 @@
 
 #include "../animals/eläinruutu.h"
 #include "../buildings/rakennusruutu.h"
+#include "../buildings/tarvikeruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
 #include "../workforce/työvoimaruutu.h"
@@ -88,6 +89,7 @@ struct Peli {
     RakennusRuutuTila rakennusruutu;  // the building screen's choice and day labels
     TyövoimaRuutuTila työvoimaruutu;  // the staff screen's list, choice and labels
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
+    TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     bool käynnissä = false;   // a farm has been started or opened
 };
 

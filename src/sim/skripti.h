@@ -32,6 +32,7 @@ void MarkkinoidenToiminnot(Toimintoluettelo& t);  // the market, the product scr
 void TyövoimanToiminnot(Toimintoluettelo& t);     // the staff screen
 void RakennustenToiminnot(Toimintoluettelo& t);   // the building screen and the work orders
 void PankinToiminnot(Toimintoluettelo& t);        // the bank screen: loan, deposit, insurance
+void TarvikkeidenToiminnot(Toimintoluettelo& t);  // the supplies shop
 
 // An operation that takes no arguments.
 Toiminto Pelkkä(void (*f)(Peli&));

@@ -58,6 +58,7 @@ const Toimintoluettelo& Toiminnot() {
         TyövoimanToiminnot(t);
         RakennustenToiminnot(t);
         PankinToiminnot(t);
+        TarvikkeidenToiminnot(t);
         return t;
     }();
     return toiminnot;

@@ -7,10 +7,12 @@
 #include "QtKanavat.h"
 #include "Tuotteet.h"
 #include "Pankki.h"
+#include "Tarvikkeet.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
 #include "animals/kauppa.h"
 #include "buildings/rakentaminen.h"
+#include "buildings/tarvikkeet.h"
 #include "finance/pankki.h"
 #include "workforce/työvoima.h"
 #include "core/kuukausi.h"
@@ -153,6 +155,15 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.Päivitä();
     ok &= Tallenna(&w, kansio, "15-Pankki.png");
     w.pankki()->Command1()->click();
+
+    Aseta(peli.m.TähtiLukitus, false);  // the shop opens without stars for the picture
+    w.AvaaRuutu(w.tarvikkeet());
+    NäytäLisälaitteet(peli);
+    ValitseTarvike(peli, Lypsykone);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "16-Tarvikkeet.png");
+    w.tarvikkeet()->Command1()->click();
+    Aseta(peli.m.TähtiLukitus, true);
 
     while (!peli.näkymä.RaporttiAuki) w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "06-Raportti.png");

@@ -7,6 +7,7 @@
 #include "Työvoima.h"
 #include "Rakennukset.h"
 #include "Pankki.h"
+#include "Tarvikkeet.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -34,8 +35,9 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     työvoima_ = new Työvoima(peli_, *this, pino_);
     rakennukset_ = new Rakennukset(peli_, *this, pino_);
     pankki_ = new Pankki(peli_, *this, pino_);
+    tarvikkeet_ = new Tarvikkeet(peli_, *this, pino_);
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
-                                                          rakennukset_, pankki_})
+                                                          rakennukset_, pankki_, tarvikkeet_})
         pino_->addWidget(ruutu);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
@@ -67,6 +69,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaTyövoima = [this] { AvaaRuutu(työvoima_); };
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
+    tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -126,6 +129,8 @@ void Pääikkuna::Päivitä() {
         rakennukset_->Päivitä();
     } else if (nyt == pankki_) {
         pankki_->Päivitä();
+    } else if (nyt == tarvikkeet_) {
+        tarvikkeet_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -145,6 +150,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
         if (ruutu == työvoima_) työvoima_->Avaa();
         if (ruutu == rakennukset_) rakennukset_->Avaa();
         if (ruutu == pankki_) pankki_->Avaa();
+        if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
         NäytäRaha(peli_);
     });
     pino_->setCurrentWidget(ruutu);
@@ -183,7 +189,8 @@ void Pääikkuna::Lopeta() {
 }
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
-    return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_;
+    return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
+           ruutu == tarvikkeet_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

@@ -22,6 +22,7 @@ class Tuotteet;
 class Työvoima;
 class Rakennukset;
 class Pankki;
+class Tarvikkeet;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -53,6 +54,7 @@ public:
     Työvoima* työvoima() const { return työvoima_; }
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
+    Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -81,6 +83,7 @@ private:
     Työvoima* työvoima_;
     Rakennukset* rakennukset_;
     Pankki* pankki_;
+    Tarvikkeet* tarvikkeet_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

@@ -128,18 +128,20 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     command6_->setToolTip("Laina ja talletus");
     command8_ = new QPushButton("Työvoima", this);
     command8_->setToolTip("Työntekijöiden palkkaaminen");
+    command9_ = new QPushButton("Tarvikkeet", this);
+    command9_->setToolTip("Lisä tarvikkeet");
     command4_ = new QPushButton("Seuraava päivä", this);
     command4_->setToolTip("Päivän kulutus (Enter pohjassa pikavalinta)");
     lopetus_ = new QPushButton("Lopeta peli", this);
     lopetus_->setToolTip("Lopeta pelaaminen");
-    const std::array<std::pair<QPushButton*, const char*>, 7> napit{
+    const std::array<std::pair<QPushButton*, const char*>, 8> napit{
         std::pair{command1_, "Command1"}, std::pair{command2_, "Command2"}, std::pair{command3_, "Command3"},
-        std::pair{command6_, "Command6"}, std::pair{command8_, "Command8"}, std::pair{command4_, "Command4"},
-        std::pair{lopetus_, "Lopetus"}};
+        std::pair{command6_, "Command6"}, std::pair{command8_, "Command8"}, std::pair{command9_, "Command9"},
+        std::pair{command4_, "Command4"}, std::pair{lopetus_, "Lopetus"}};
     for (auto [nappi, nimi] : napit) {
         nappi->setObjectName(nimi);
         Teksturoi(peli_, nappi, "nappi.jpg", 12, 14);
-        nappi->setMinimumSize(118, 46);
+        nappi->setMinimumSize(150, 40);
         Ohje(nimi, nappi);
         nappi->installEventFilter(this);
     }
@@ -149,6 +151,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(command3_, &QPushButton::clicked, this, [this] { if (AvaaTuotteet) AvaaTuotteet(); });
     connect(command2_, &QPushButton::clicked, this, [this] { if (AvaaRakennukset) AvaaRakennukset(); });
     connect(command6_, &QPushButton::clicked, this, [this] { if (AvaaPankki) AvaaPankki(); });
+    connect(command9_, &QPushButton::clicked, this, [this] { if (AvaaTarvikkeet) AvaaTarvikkeet(); });
     connect(command8_, &QPushButton::clicked, this, [this] { if (AvaaTyövoima) AvaaTyövoima(); });
     connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
     connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
@@ -164,16 +167,13 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     keski->addStretch();
     keski->addWidget(lista_, 2, Qt::AlignTop);
     keski->addStretch();
-    auto* ala = new QHBoxLayout;
-    ala->addWidget(command1_);
-    ala->addWidget(command2_);
-    ala->addWidget(command3_);
-    ala->addWidget(command6_);
-    ala->addWidget(command8_);
-    ala->addStretch();
-    ala->addWidget(command4_);
-    ala->addStretch();
-    ala->addWidget(lopetus_);
+    // The screens' buttons in two rows on the left; the next day and the quit on the right.
+    auto* ala = new QGridLayout;
+    const std::array<QPushButton*, 6> ruudut{command1_, command2_, command3_, command6_, command8_, command9_};
+    for (int i = 0; i < 6; ++i) ala->addWidget(ruudut[i], i / 3, i % 3);
+    ala->setColumnStretch(3, 1);
+    ala->addWidget(command4_, 0, 4);
+    ala->addWidget(lopetus_, 1, 4);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -259,6 +259,8 @@ void Tanhua::Päivitä() {
     lista_->setVisible(peli_.näkymä.ListaNäkyvissä && !rivit.empty());
     if (lista_->count() > 0) lista_->setCurrentRow(lista_->count() - 1);
     ohje_->setVisible(peli_.m.OhjeetPäällä);
+    // Supplies open with the first star while the stars lock the farm.
+    command9_->setEnabled(peli_.näkymä.Command9Käytössä);
     ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
 }
 

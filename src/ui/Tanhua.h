@@ -47,6 +47,7 @@ public:
     QPushButton* Command3() const { return command3_; }
     QPushButton* Command6() const { return command6_; }
     QPushButton* Command8() const { return command8_; }
+    QPushButton* Command9() const { return command9_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
     QLabel* Rahaz() const { return rahaz_; }
@@ -54,7 +55,8 @@ public:
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
 
     // What the frame does for the buttons of the main screen.
-    std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, SeuraavaPäivä, Lopeta;
+    std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
+        SeuraavaPäivä, Lopeta;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
 
 protected:
@@ -69,7 +71,7 @@ private:
     std::array<QLabel*, 5> tähdet_{};
     std::array<MittariKuva*, 4> mittarit_{};
     QListWidget* lista_;
-    QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command4_, *lopetus_;
+    QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
     std::string tausta_;
 };
 

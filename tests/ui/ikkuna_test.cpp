@@ -14,6 +14,7 @@
 #include "ui/QtKanavat.h"
 #include "ui/Pankki.h"
 #include "ui/Rakennukset.h"
+#include "ui/Tarvikkeet.h"
 #include "ui/Tuotteet.h"
 #include "ui/Työvoima.h"
 
@@ -215,6 +216,27 @@ TEST(Window, TakesALoanAndReadsTheMarketReportAtTheBank) {
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->pankki()) << "the market report goes back to the bank";
     QTest::keyClick(p, Qt::Key_Escape);  // hides the sheet
     QTest::keyClick(p, Qt::Key_Escape);  // leaves the bank
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+}
+
+TEST(Window, BuysASupplyWhenTheStarsAllow) {
+    Ikkuna i;
+    i.Aloita();
+    EXPECT_FALSE(i.w->tanhua()->Command9()->isEnabled()) << "supplies wait for the first star";
+    i.peli.m.Tähdet = 1;
+    i.w->PalaaPääruutuun();
+    ASSERT_TRUE(i.w->tanhua()->Command9()->isEnabled());
+    QTest::mouseClick(i.w->tanhua()->Command9(), Qt::LeftButton);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->tarvikkeet());
+    Tarvikkeet* t = i.w->tarvikkeet();
+    QTest::mouseClick(t->Command4(), Qt::LeftButton);
+    ASSERT_GT(t->Lista()->count(), 0);
+    t->Lista()->setCurrentRow(0);  // Palohälyttimet, 5000
+    EXPECT_EQ(t->hinta()->text(), "5000");
+    QTest::mouseClick(t->Command5(), Qt::LeftButton);
+    EXPECT_TRUE(i.peli.m.Tarv[Palohälytin]);
+    EXPECT_EQ(i.peli.m.Raha, 5000);
+    QTest::mouseClick(t->Command1(), Qt::LeftButton);
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 
