@@ -1,7 +1,7 @@
 // Choosing a job, the wage slider, overtime, the wage sum and the employment subsidy.
 #include <gtest/gtest.h>
 
-#include "tuki/testipeli.h"
+#include "henkilöstö.h"
 #include "workforce/palkat.h"
 #include "workforce/työvoima.h"
 
@@ -9,16 +9,8 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
+using testi::Tila;
 using Tapahtumat = std::vector<std::string>;
-
-struct Tila : Testipeli {
-    Tila() {
-        Aloita();
-        peli.asetukset.Äänitehosteet = true;
-        m.TähtiLukitus = false;
-        AvaaTyövoima(peli);
-    }
-};
 
 TEST(Choosing, TheSliderStandsAtTheWagesDifferenceHeldToItsEnd) {
     // PerusPalkka of the baker is 5000.
@@ -104,8 +96,7 @@ TEST(Slider, TheWageFollowsAndTheSumIsShown) {
     Tila t;
     t.m.Työ[Kirjanpitäjä] = 2;
     t.m.Työ[Siivooja] = 1;
-    ValitseTyöläinen(t.peli, Kirjanpitäjä);
-    t.Tapahtumat();
+    t.Valitse(Kirjanpitäjä);
     SiirräMittaria(t.peli, 250);
     EXPECT_EQ(t.m.Palkka[Kirjanpitäjä], 3250);
     EXPECT_EQ(t.peli.työvoimaruutu.palk, 3250);
@@ -118,8 +109,7 @@ TEST(Slider, TheWageFollowsAndTheSumIsShown) {
 
 TEST(Overtime, TheButtonsSetTheFlagAndTheLabel) {
     Tila t;
-    ValitseTyöläinen(t.peli, Siivooja);
-    t.Tapahtumat();
+    t.Valitse(Siivooja);
     t.peli.arvonta.Jonoon(0.0);
     YlityöPäälle(t.peli);
     EXPECT_TRUE(t.m.Ylityö[Siivooja]);
@@ -130,8 +120,7 @@ TEST(Overtime, TheButtonsSetTheFlagAndTheLabel) {
     EXPECT_EQ(t.peli.työvoimaruutu.YliTyö, "Ei");
     EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"ÄÄNI|klik1", "ÄÄNI|klik3"}));
     // The accountant's buttons are off: nothing changes, no sound.
-    ValitseTyöläinen(t.peli, Kirjanpitäjä);
-    t.Tapahtumat();
+    t.Valitse(Kirjanpitäjä);
     YlityöPäälle(t.peli);
     EXPECT_FALSE(t.m.Ylityö[Kirjanpitäjä]);
     EXPECT_EQ(t.peli.työvoimaruutu.YliTyö, "Ei voida määrittää");

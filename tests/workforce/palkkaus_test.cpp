@@ -1,13 +1,14 @@
 // The staff screen: the job list by stars, hiring against the buildings' room, firing and the court claim.
 #include <gtest/gtest.h>
 
-#include "tuki/testipeli.h"
+#include "henkilöstö.h"
 #include "workforce/työvoima.h"
 
 namespace tanhua {
 namespace {
 
 using testi::Testipeli;
+using testi::Tila;
 using Tapahtumat = std::vector<std::string>;
 
 const std::string EI_RAKENNUSTA =
@@ -16,21 +17,6 @@ const std::string EI_RAKENNUSTA =
 const std::string TÄYNNÄ =
     "VIESTI|0|Olet palkkaamassa enemmän työvoimaa, kuin rakennuksellesi mahtuu työntekijöitä. Laajenna ensin "
     "rakennusta, ennenkuin palkkaat lisää työvoimaa.|vastattu";
-
-// A farm with sound effects on and the staff screen open, every job listed.
-struct Tila : Testipeli {
-    Tila() {
-        Aloita();
-        peli.asetukset.Äänitehosteet = true;
-        m.TähtiLukitus = false;
-        m.Raha = 10000;
-        AvaaTyövoima(peli);
-    }
-    void Valitse(Työläinen k) {
-        ValitseTyöläinen(peli, k);
-        Tapahtumat();
-    }
-};
 
 TEST(JobList, StarsOpenTheJobsInTheScreensOrder) {
     struct Tapaus { bool lukitus; Byte tähdet; std::vector<Työläinen> odotettu; };
