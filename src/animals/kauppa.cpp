@@ -1,6 +1,8 @@
 // The animal screen: cards, the lot, buying and selling at fixed prices, the limits and the hints.
 #include "kauppa.h"
 
+#include <array>
+
 #include "../core/kanavat.h"
 #include "../core/peli.h"
 #include "../core/viestit.h"
@@ -84,21 +86,25 @@ void ValitseEläin(Peli& peli, int kortti) {
     PäivitäSummat(r);
 }
 
-void määräplus(Peli& peli) {
+namespace {
+// The lot moves one step along 1, 10, 100; past either end nothing changes.
+void AskellaMäärää(Peli& peli, int suunta) {
+    static constexpr std::array<Integer, 3> ERÄT{1, 10, 100};
     EläinRuutuTila& r = peli.eläinruutu;
     SoitaÄäni(peli, "siirto");
-    if (r.määrä == 1) r.määrä = 10;
-    else if (r.määrä == 10) r.määrä = 100;
+    for (std::size_t i = 0; i < ERÄT.size(); ++i) {
+        const std::size_t uusi = i + static_cast<std::size_t>(suunta);
+        if (r.määrä == ERÄT[i] && uusi < ERÄT.size()) {
+            r.määrä = ERÄT[uusi];
+            break;
+        }
+    }
     PäivitäSummat(r);
 }
+}  // namespace
 
-void määrämiinus(Peli& peli) {
-    EläinRuutuTila& r = peli.eläinruutu;
-    SoitaÄäni(peli, "siirto");
-    if (r.määrä == 100) r.määrä = 10;
-    else if (r.määrä == 10) r.määrä = 1;
-    PäivitäSummat(r);
-}
+void määräplus(Peli& peli) { AskellaMäärää(peli, 1); }
+void määrämiinus(Peli& peli) { AskellaMäärää(peli, -1); }
 
 void Osta(Peli& peli) {
     EläinRuutuTila& r = peli.eläinruutu;

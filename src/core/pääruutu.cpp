@@ -19,7 +19,7 @@ std::string RahaMuoto(double r) {
 }
 
 std::string RahaKylttiMuoto(double r) {
-    if (r < 1000000) return Str(static_cast<float>(r));
+    if (r < 1000000) return Str(CSng(r));
     return RahaMuoto(r);
 }
 

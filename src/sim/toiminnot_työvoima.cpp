@@ -53,7 +53,7 @@ Toiminto Painike(void (*painike)(Peli&)) {
 Integer Mittarille(long long arvo) {
     if (arvo < TyövoimaRuutuTila::MITTARI_MIN || arvo > TyövoimaRuutuTila::MITTARI_MAX)
         throw std::runtime_error("the wage slider goes from -1000 to 1000 around the base wage");
-    return static_cast<Integer>(arvo);
+    return CInt(static_cast<double>(arvo));
 }
 
 }  // namespace

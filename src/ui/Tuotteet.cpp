@@ -16,7 +16,7 @@
 namespace tanhua::ui {
 
 namespace {
-QString Määrä(double x) { return QString::fromStdString(Str(static_cast<float>(x))); }
+QString Määrä(double x) { return QString::fromStdString(Str(CSng(x))); }
 }  // namespace
 
 Tuotteet::Tuotteet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)

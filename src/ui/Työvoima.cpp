@@ -69,7 +69,7 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     mittari_->setSingleStep(TyövoimaRuutuTila::MITTARI_PIENI);
     mittari_->setPageStep(TyövoimaRuutuTila::MITTARI_SUURI);
     connect(mittari_, &QSlider::valueChanged, this, [this](int arvo) {
-        ikkuna_.Toimi([this, arvo] { SiirräMittaria(peli_, static_cast<Integer>(arvo)); });
+        ikkuna_.Toimi([this, arvo] { SiirräMittaria(peli_, CInt(arvo)); });
     });
     ota_ = new QPushButton("Ota töihin", kortti);
     erota_ = new QPushButton("Erota", kortti);

@@ -7,6 +7,7 @@
 #include "buildings/rakentaminen.h"
 #include "core/vikatila.h"
 #include "tuki/testipeli.h"
+#include "työmaat.h"
 
 namespace tanhua {
 namespace {
@@ -14,9 +15,6 @@ namespace {
 using testi::Testipeli;
 using Tapahtumat = std::vector<std::string>;
 
-constexpr std::size_t NAVETTA = Työmaa(Navetta);
-constexpr std::size_t SIILO = Työmaa(Siilo);
-constexpr std::size_t VARASTO = Työmaa(Varasto);
 
 // A farm with sound on, plenty of money, some pasture and the building screen open.
 struct Tila : Testipeli {

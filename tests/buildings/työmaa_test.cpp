@@ -4,6 +4,7 @@
 #include "buildings/rakennukset.h"
 #include "buildings/taulut/rakennuskatalogi.h"
 #include "tuki/testipeli.h"
+#include "työmaat.h"
 
 namespace tanhua {
 namespace {
@@ -11,9 +12,6 @@ namespace {
 using testi::Testipeli;
 using Tapahtumat = std::vector<std::string>;
 
-constexpr std::size_t NAVETTA = Työmaa(Navetta);
-constexpr std::size_t SIILO = Työmaa(Siilo);
-constexpr std::size_t VARASTO = Työmaa(Varasto);
 
 struct Tila : Testipeli {
     Tila() {
