@@ -8,6 +8,7 @@
 #include "core/alku.h"
 #include "core/kentät.h"
 #include "core/kuukausi.h"
+#include "core/ohjaimet.h"
 #include "core/päivä.h"
 #include "core/vikatila.h"
 #include "storage/tiedostot.h"
@@ -29,6 +30,12 @@ long long Kokonaisluku(const std::string& sana, const std::string& mikä) {
     return arvo;
 }
 }  // namespace
+
+void Ohita() { throw Ohitettu{}; }
+
+void VaadiPainettava(const Peli& peli, const std::string& ohjain) {
+    if (!Painettavissa(peli, ohjain)) Ohita();
+}
 
 bool Sanat(const std::string& rivi, std::vector<std::string>& sanat) {
     sanat.clear();
@@ -96,14 +103,18 @@ void Ajuri::Kutsu(const std::vector<std::string>& sanat) {
     // An operation with no handler of its own is caught here, as a window catches a click's failure.
     // A word the operation can't take (an unknown card, a lot of 7) is the script's fault, not the game's.
     std::string skriptivirhe;
+    bool ohitettu = false;
     Vartioitu(*peli_, "", {[&] {
         try {
             it->second.aja(*peli_, argumentit);
         } catch (const std::runtime_error& e) {
             skriptivirhe = e.what();
+        } catch (const Ohitettu&) {
+            ohitettu = true;
         }
     }});
     if (!skriptivirhe.empty()) Virhe(skriptivirhe);
+    if (ohitettu) kanavat_.tapahtumat.push_back("OHITETTU|" + sanat[1]);
     SuljeAvoinRaportti();
 }
 
@@ -150,6 +161,11 @@ void Ajuri::Rivi(const std::string& rivi, std::ostream& ulos) {
         Päivät(sanat);
     } else if (komento == "print") {
         for (std::size_t i = 1; i < sanat.size(); ++i) {
+            // A control of a screen first, as the player sees it; then a value of the record.
+            if (const auto ohjain = LueOhjain(peli, sanat[i])) {
+                ulos << sanat[i] << '=' << OhjainTekstinä(*ohjain) << '\n';
+                continue;
+            }
             const auto kenttä = EtsiKenttä(peli, sanat[i]);
             if (!kenttä) Virhe("unknown value '" + sanat[i] + "'");
             ulos << sanat[i] << '=' << KentänArvo(*kenttä) << '\n';

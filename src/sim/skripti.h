@@ -34,6 +34,14 @@ void RakennustenToiminnot(Toimintoluettelo& t);   // the building screen and the
 void PankinToiminnot(Toimintoluettelo& t);        // the bank screen: loan, deposit, insurance
 void TarvikkeidenToiminnot(Toimintoluettelo& t);  // the supplies shop
 
+// A press a player couldn't make (a hidden or disabled control, a row that is not on the list, a
+// screen the stars keep locked): the operation throws this before it changes anything, and the
+// runner writes OHITETTU|Screen.Operation and reads on.
+struct Ohitettu {};
+[[noreturn]] void Ohita();
+// Throws Ohitettu unless the control ("Eläimet.Command2", "Tanhua.TP_Kuva(1)") can be clicked.
+void VaadiPainettava(const Peli& peli, const std::string& ohjain);
+
 // An operation that takes no arguments.
 Toiminto Pelkkä(void (*f)(Peli&));
 

@@ -1,0 +1,91 @@
+// The controls of the main screen as the player sees them.
+#include <array>
+
+#include "ohjaimet.h"
+#include "peli.h"
+#include "sää.h"
+
+namespace tanhua {
+
+namespace {
+// The screens' buttons with their captions; the whole screen is disabled while the report is open.
+struct Nappi {
+    const char* nimi;
+    const char* teksti;
+};
+constexpr std::array<Nappi, 8> NAPIT{{
+    {"Command1", "Eläimet"},
+    {"Command2", "Rakennukset"},
+    {"Command3", "Tuotteet"},
+    {"Command4", "Seuraava päivä"},
+    {"Command6", "Pankkiasiat"},
+    {"Command8", "Työvoima"},
+    {"Command9", "Tarvikkeet"},
+    {"Lopetus", "Lopeta peli"},
+}};
+
+constexpr std::array<const char*, 5> TÄHTIEN_JÄRJESTYS{"Ensimmäinen", "Toinen", "Kolmas", "Neljäs", "Viides"};
+
+const Lukemat& L(const Peli& p) { return p.näkymä.lukemat; }
+
+Ohjain Teksti(std::string t) { return Näkyvä(std::move(t)); }
+}  // namespace
+
+void PääruudunOhjaimet(Ohjainluettelo& l) {
+    auto yksi = [&l](const char* nimi, std::function<Ohjain(const Peli&)> f) {
+        l[std::string("Tanhua.") + nimi] = {[f](const Peli& p, int) { return f(p); }};
+    };
+    yksi("Rahaz", [](const Peli& p) { return Teksti(L(p).Rahaz); });
+    yksi("liikevaihtoz", [](const Peli& p) {
+        return JosNäkyy(L(p).liikevaihtoNäkyy, [&] { return L(p).liikevaihtoz; });
+    });
+    yksi("Päiväz", [](const Peli& p) { return Teksti(L(p).Päiväz); });
+    yksi("Kuukausiz", [](const Peli& p) { return Teksti(L(p).Kuukausiz); });
+    yksi("Vuosiz", [](const Peli& p) { return Teksti(L(p).Vuosiz); });
+    yksi("Vuodenaikaz", [](const Peli& p) { return Teksti(L(p).Vuodenaikaz); });
+    yksi("Sää", [](const Peli& p) {
+        if (L(p).sää < 0) return Piilossa();
+        Ohjain o = Teksti(SÄÄKUVAT[L(p).sää].tiedosto);
+        o.vihje = SÄÄKUVAT[L(p).sää].vihje;
+        return o;
+    });
+    yksi("AsteLuku", [](const Peli& p) {
+        const LämpötilaNäyttö a = AsteLuku(p.m.Lämpötila);
+        Ohjain o = Teksti(a.teksti);
+        o.väri = RGB(a.r, a.g, a.b);
+        return o;
+    });
+    for (int i = 0; i < 4; ++i)
+        yksi(("Mittari" + std::to_string(i + 1)).c_str(),
+             [i](const Peli& p) { return Teksti(std::to_string(L(p).mittarit[i].p)); });
+    l["Tanhua.TP_Kuva"] = {[](const Peli& p, int i) {
+                               if (!L(p).tähdetNäkyvät) return Piilossa();
+                               Ohjain o = Teksti(i < L(p).tähtiä ? "Tähti.gif" : "Tähti2.gif");
+                               o.vihje = std::string(TÄHTIEN_JÄRJESTYS[i]) +
+                                         " tähti. Klikkaa tähteä nähdäksesti mitä sinun on saavutettava, "
+                                         "jotta tilasi ansaitsee kyseisen tähden.";
+                               return o;
+                           },
+                           5, 0};
+    yksi("Lista", [](const Peli& p) {
+        const Näkymä& n = p.näkymä;
+        if (!n.ListaNäkyvissä || n.Lista.empty()) return Piilossa();
+        std::string t;
+        for (const std::string& rivi : n.Lista) t += (t.empty() ? "" : "|") + rivi;
+        return Teksti(t);
+    });
+    yksi("Versio", [](const Peli& p) { return Teksti(L(p).Versio); });
+    yksi("Ohje", [](const Peli& p) { return JosNäkyy(p.m.OhjeetPäällä, [&] { return p.näkymä.Ohje; }); });
+    yksi("Hepotalli", [](const Peli& p) { return JosNäkyy(p.näkymä.Hepotalli, [] { return "Hevostalli"; }); });
+    for (const Nappi& n : NAPIT) {
+        const std::string nimi = n.nimi;
+        const char* teksti = n.teksti;
+        yksi(n.nimi, [nimi, teksti](const Peli& p) {
+            bool käytössä = p.näkymä.PääruutuKäytössä;
+            if (nimi == "Command9") käytössä = käytössä && p.näkymä.Command9Käytössä;
+            return Näkyvä(teksti, käytössä);
+        });
+    }
+}
+
+}  // namespace tanhua
