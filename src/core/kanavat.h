@@ -47,6 +47,12 @@ public:
     virtual void ListaRivi(const std::string& rivi) = 0;
     // A report page, printed whole.
     virtual void Raportti(const RaporttiSivu& sivu) = 0;
+    // A printed area of a screen (statistics table, race sheet, score report, life story): its name
+    // as the title and its lines, printed whole as a report page is. The window's screens draw their
+    // areas themselves; the runner tells them.
+    virtual void Alue(const RaporttiSivu& /*alue*/) {}
+    // The game ends the program (the quit, the retirement): the window closes.
+    virtual void Loppu() = 0;
     // The plain system box with one OK button.
     virtual void Laatikko(const std::string& teksti) = 0;
     // A text prompt; returns what the player typed, or the default.

@@ -240,3 +240,16 @@ void AsetaKenttä(const Kenttä& kenttä, const std::string& arvo) {
 }
 
 }  // namespace tanhua
+
+namespace tanhua {
+
+bool OnAsetus(const std::string& nimi) {
+    Asetukset a;
+    Luettelo l;
+    Asetuksista(l, a);
+    for (const Kenttä& k : l.kentät)
+        if (k.nimi == nimi) return true;
+    return false;
+}
+
+}  // namespace tanhua

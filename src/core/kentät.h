@@ -23,6 +23,8 @@ struct Kenttä {
 // The values of the record and the settings, in the order of the record.
 std::vector<Kenttä> Kentät(Peli& peli);
 std::optional<Kenttä> EtsiKenttä(Peli& peli, const std::string& nimi);
+// Whether the name is one of the nine settings of the installation rather than a value of the farm.
+bool OnAsetus(const std::string& nimi);
 
 // The value as text: a number as Str writes it without the leading blank, a Boolean True/False,
 // a text as it is, a list its items joined by commas.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -91,6 +92,9 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     bool käynnissä = false;   // a farm has been started or opened
+    // The day's store load while a day runs: taken once, before the herd's output, and read by
+    // every shift of the day, so goods made later today don't block today's work.
+    std::optional<double> päivänKuorma;
 };
 
 }  // namespace tanhua

@@ -100,6 +100,7 @@ void SeuraavaPäivä(Peli& peli) {
         [&] { PakkaamoPäivä(peli); },
         [&] {
             kuorma = VarastoKuorma(m);
+            peli.päivänKuorma = kuorma;
             if (kuorma >= m.Koko_Varasto) LisääListaan(peli, "Varastosi on täynnä! Myy tuotteitasi.");
             else EläintenTuotanto(peli);
         },
@@ -132,6 +133,7 @@ void SeuraavaPäivä(Peli& peli) {
         [&] { Päivitälukemat(peli); },
         [&] { PäiväKulut(peli); },
     });
+    peli.päivänKuorma.reset();
     // Only a day that reached its last step clears the failure count.
     if (loppuun) m.VikaLaskuri = 0;
 }

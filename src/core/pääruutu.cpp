@@ -76,6 +76,8 @@ bool LopetaKysymys(Peli& peli) {
     return KysyKyllä(peli, "Oletko varma että lopetat pelin suoraan ilman eläkkeelle siirtymistä?");
 }
 
+void Lopeta(Peli& peli) { peli.kanavat.Loppu(); }
+
 const std::string& Ohjeteksti(const std::string& kontrolli) {
     static const std::map<std::string, std::string> tekstit{
         {"Command1", "Tästä valikosta pääset ostamaan eläimiä. Eläimet ovat pelin tärkein osa jolla lähdet rakentamaan maatilaasi. Ensimmäinen hyvä valinta pelissä on ostaa eläimiä."},

@@ -47,6 +47,9 @@ void PalaaPääruutuun(Peli& peli);
 // "Lopeta peli" and Esc: asks; true when the player wants to quit.
 bool LopetaKysymys(Peli& peli);
 
+// Lopeta: the exit of a running game; the program ends with no save.
+void Lopeta(Peli& peli);
+
 // The hint line's texts by control name (Command1 ... Image2, and "Tervetuloa" for the welcome).
 const std::string& Ohjeteksti(const std::string& kontrolli);
 

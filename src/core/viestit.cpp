@@ -21,6 +21,8 @@ std::string Kysy(Peli& peli, const std::string& teksti, int tyyli) {
     n.MsgVastaus.clear();
     Aseta(n.MsgTyyli, tyyli);
     n.MsgVastaus = peli.kanavat.Kysy(teksti, tyyli);
+    // Every button of the box clicks, in the window and headless alike, so both take its draw.
+    SoitaÄäni(peli, "klik");
     return n.MsgVastaus;
 }
 
@@ -39,6 +41,12 @@ void Kerro(Peli& peli, const std::string& kuva, const std::string& teksti) {
     n.IkkunaKuva = kuva;
     n.IkkunaTeksti = teksti;
     peli.kanavat.Kerro(kuva, teksti);
+}
+
+void KerroJaOdota(Peli& peli, const std::string& kuva, const std::string& teksti) {
+    Kerro(peli, kuva, teksti);
+    peli.kanavat.OdotaIkkunaa();
+    peli.näkymä.IkkunaNäkyvissä = false;
 }
 
 void LisääListaan(Peli& peli, const std::string& rivi) {

@@ -23,6 +23,9 @@ void Kieltäydy(Peli& peli, const std::string& teksti);
 // The news window: a picture under the program folder ("Kuvat/sattumat/joulu.jpg", "" for the
 // blank one) and its text. Each new one overwrites the last.
 void Kerro(Peli& peli, const std::string& kuva, const std::string& teksti);
+// The waiting form of the news window (the contract notices): tells, then goes on only once the
+// player has closed the window.
+void KerroJaOdota(Peli& peli, const std::string& kuva, const std::string& teksti);
 // A line of the event list; the list shows itself.
 void LisääListaan(Peli& peli, const std::string& rivi);
 

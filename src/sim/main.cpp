@@ -1,4 +1,5 @@
 // tanhua-sim: runs a script of commands against the game, headless.
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -18,7 +19,12 @@ int main(int argc, char** argv) {
     std::string skripti;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
-        if ((a == "--data-dir" || a == "--program-dir") && i + 1 < argc) {
+        if (a == "--data-dir" || a == "--program-dir") {
+            if (i + 1 >= argc || argv[i + 1][0] == '\0') {
+                std::cerr << "tanhua-sim: " << a << " needs a folder\n";
+                Käyttö();
+                return 2;
+            }
             (a == "--data-dir" ? kansiot.data : kansiot.ohjelma) = argv[++i];
         } else if (a == "-h" || a == "--help") {
             Käyttö();
@@ -36,6 +42,10 @@ int main(int argc, char** argv) {
     }
     tanhua::Ajuri ajuri(kansiot);
     if (skripti.empty() || skripti == "-") return ajuri.Aja(std::cin, std::cout, std::cerr);
+    if (std::filesystem::is_directory(skripti)) {
+        std::cerr << "tanhua-sim: '" << skripti << "' is a folder, not a script\n";
+        return 2;
+    }
     std::ifstream tiedosto(skripti);
     if (!tiedosto) {
         std::cerr << "tanhua-sim: cannot open script '" << skripti << "'\n";

@@ -1,6 +1,8 @@
 // The headless runner: the script's commands on one game, with recording channels.
 #include "skripti.h"
 
+#include <cstdio>
+#include <fstream>
 #include <istream>
 #include <ostream>
 #include <stdexcept>
@@ -9,8 +11,10 @@
 #include "core/kentät.h"
 #include "core/kuukausi.h"
 #include "core/ohjaimet.h"
+#include "core/pääruutu.h"
 #include "core/päivä.h"
 #include "core/vikatila.h"
+#include "buildings/tarvikkeet.h"
 #include "storage/tiedostot.h"
 
 namespace tanhua {
@@ -88,7 +92,8 @@ void Ajuri::Uusi(const std::vector<std::string>& sanat) {
     a.Lista = tavoite;
     a.VTaso = static_cast<int>(taso);
     a.TP_Valinta = sanat[4] == "on";
-    AloitaUusi(*peli_);
+    // The main screen then shows, as the window's start does: the star locks, the herd, the figures.
+    if (AloitaUusi(*peli_)) Vartioitu(*peli_, "", {[&] { PalaaPääruutuun(*peli_); }});
 }
 
 void Ajuri::Kutsu(const std::vector<std::string>& sanat) {
@@ -96,6 +101,7 @@ void Ajuri::Kutsu(const std::vector<std::string>& sanat) {
     const auto& toiminnot = Toiminnot();
     const auto it = toiminnot.find(sanat[1]);
     if (it == toiminnot.end()) Virhe("unknown operation '" + sanat[1] + "'");
+    if (!it->second.tilaton) VaadiTila("call " + sanat[1]);
     const std::vector<std::string> argumentit(sanat.begin() + 2, sanat.end());
     const int n = static_cast<int>(argumentit.size());
     if (n < it->second.vähintään || n > it->second.enintään)
@@ -120,6 +126,7 @@ void Ajuri::Kutsu(const std::vector<std::string>& sanat) {
 
 void Ajuri::Päivät(const std::vector<std::string>& sanat) {
     if (sanat.size() != 2) Virhe("days takes N");
+    VaadiTila("days");
     const long long n = Kokonaisluku(sanat[1], "N");
     if (n < 0) Virhe("N must not be negative");
     for (long long i = 0; i < n; ++i) {
@@ -128,31 +135,140 @@ void Ajuri::Päivät(const std::vector<std::string>& sanat) {
     }
 }
 
+namespace {
+// A draw typed as a plain decimal number ("0.5", ".25", "0"): no sign, exponent, hex or words.
+bool DesimaaliLuku(const std::string& sana) {
+    bool numeroita = false, piste = false;
+    for (char c : sana) {
+        if (c >= '0' && c <= '9') numeroita = true;
+        else if (c == '.' && !piste) piste = true;
+        else return false;
+    }
+    return numeroita;
+}
+
+// A byte of a data file printed as it is, or as \xNN when it isn't a printing character of a line.
+std::string Tavuina(const std::string& sisältö) {
+    std::string ulos;
+    for (unsigned char c : sisältö) {
+        if (c == '\\' || c < 0x20 || c == 0x7F || c >= 0x80) {
+            char koodi[8];
+            std::snprintf(koodi, sizeof koodi, "\\x%02X", c);
+            ulos += koodi;
+        } else {
+            ulos += static_cast<char>(c);
+        }
+    }
+    return ulos;
+}
+}  // namespace
+
+void Ajuri::VaadiTila(const std::string& komento) const {
+    if (!peli_->käynnissä)
+        Virhe(komento + " needs a farm: start one with new first (there is none, or Tilanne.UusiTilanne dropped it)");
+}
+
+void Ajuri::Aseta(const std::vector<std::string>& sanat) {
+    if (sanat.size() != 3) Virhe("set takes NAME VALUE");
+    Peli& peli = *peli_;
+    const auto kenttä = EtsiKenttä(peli, sanat[1]);
+    if (!kenttä) Virhe("unknown value '" + sanat[1] + "'");
+    // The installation's settings hold for the run only; every other value is the farm's.
+    if (!OnAsetus(sanat[1])) VaadiTila("set " + sanat[1]);
+    Vartioitu(peli, "", {[&] { AsetaKenttä(*kenttä, sanat[2]); }});
+    // Opening a farm rebuilds the supply lists from the flags; a flag set by hand does the same.
+    if (sanat[1].rfind("Tarv_", 0) == 0) Vartioitu(peli, "", {[&] { RakennaTarvikelistat(peli); }});
+}
+
+void Ajuri::Tulosta(const std::vector<std::string>& sanat, std::ostream& ulos) {
+    Peli& peli = *peli_;
+    for (std::size_t i = 1; i < sanat.size(); ++i) {
+        // A control of a screen first, as the player sees it; then a value of the record.
+        if (const auto ohjain = LueOhjain(peli, sanat[i])) {
+            ulos << sanat[i] << '=' << OhjainTekstinä(*ohjain) << '\n';
+            continue;
+        }
+        const auto kenttä = EtsiKenttä(peli, sanat[i]);
+        if (!kenttä) Virhe("unknown value '" + sanat[i] + "'");
+        ulos << sanat[i] << '=' << KentänArvo(*kenttä) << '\n';
+    }
+}
+
+void Ajuri::Arvonnat(const std::vector<std::string>& sanat) {
+    for (std::size_t i = 1; i < sanat.size(); ++i) {
+        double arvo = -1;
+        if (DesimaaliLuku(sanat[i])) arvo = std::strtod(sanat[i].c_str(), nullptr);
+        if (!(arvo >= 0.0 && arvo < 1.0)) Virhe("a draw must be a decimal number in [0,1): '" + sanat[i] + "'");
+        peli_->arvonta.Jonoon(arvo);
+    }
+}
+
+void Ajuri::Seuranta(const std::vector<std::string>& sanat) {
+    // Each draw is told as an event with the place in the code that took it.
+    if (sanat.size() != 2 || (sanat[1] != "on" && sanat[1] != "off")) Virhe("trace takes on or off");
+    if (sanat[1] == "off") {
+        peli_->arvonta.seuranta = nullptr;
+        return;
+    }
+    peli_->arvonta.seuranta = [this](double r, const std::source_location& paikka) {
+        std::string tiedosto = paikka.file_name();
+        const auto src = tiedosto.rfind("/src/");
+        if (src != std::string::npos) tiedosto = tiedosto.substr(src + 5);
+        kanavat_.tapahtumat.push_back("ARVONTA|" + Suoraan(Str(r)) + "|" + tiedosto + ":" +
+                                      std::to_string(paikka.line()));
+    };
+}
+
+std::filesystem::path Ajuri::Datatiedosto(const std::string& nimi) const {
+    // Only files of the data folder itself: no folders, no way out of it.
+    if (nimi.empty() || nimi.find_first_of("/\\") != std::string::npos || nimi == "." || nimi == "..")
+        Virhe("a file of the data folder is named without folders: '" + nimi + "'");
+    const auto polku = EtsiTiedosto(peli_->kansiot.data, nimi);
+    if (!polku || !std::filesystem::is_regular_file(*polku)) Virhe("no file '" + nimi + "' in the data folder");
+    return *polku;
+}
+
+void Ajuri::Tiedosto(const std::vector<std::string>& sanat, std::ostream& ulos) {
+    if (sanat.size() != 2) Virhe("file takes NAME");
+    const auto sisältö = LueTiedosto(Datatiedosto(sanat[1]));
+    if (!sisältö) Virhe("cannot read '" + sanat[1] + "'");
+    ulos << Tavuina(*sisältö) << '\n';
+}
+
+void Ajuri::Muuta(const std::vector<std::string>& sanat) {
+    if (sanat.size() != 4) Virhe("poke takes NAME OFFSET BYTE");
+    const auto polku = Datatiedosto(sanat[1]);
+    const long long kohta = Kokonaisluku(sanat[2], "OFFSET");
+    const long long tavu = Kokonaisluku(sanat[3], "BYTE");
+    if (tavu < 0 || tavu > 255) Virhe("BYTE must be 0 to 255");
+    const auto koko = std::filesystem::file_size(polku);
+    if (kohta < 0 || static_cast<unsigned long long>(kohta) >= koko)
+        Virhe("OFFSET must be within the file's " + std::to_string(koko) + " bytes");
+    std::fstream f(polku, std::ios::in | std::ios::out | std::ios::binary);
+    f.seekp(kohta);
+    f.put(static_cast<char>(tavu));
+    if (!f) Virhe("cannot write '" + sanat[1] + "'");
+}
+
 void Ajuri::Rivi(const std::string& rivi, std::ostream& ulos) {
+    // A comment is a comment whatever it holds, quotes too.
+    const auto alku = rivi.find_first_not_of(" \t\r");
+    if (alku == std::string::npos || rivi[alku] == '#') return;
     std::vector<std::string> sanat;
     if (!Sanat(rivi, sanat)) Virhe("unclosed quote");
-    if (sanat.empty() || sanat[0][0] == '#') return;
+    if (sanat.empty()) return;
     const std::string& komento = sanat[0];
-    Peli& peli = *peli_;
     if (komento == "new") {
         Uusi(sanat);
     } else if (komento == "set") {
-        if (sanat.size() != 3) Virhe("set takes NAME VALUE");
-        const auto kenttä = EtsiKenttä(peli, sanat[1]);
-        if (!kenttä) Virhe("unknown value '" + sanat[1] + "'");
-        Vartioitu(peli, "", {[&] { AsetaKenttä(*kenttä, sanat[2]); }});
+        Aseta(sanat);
     } else if (komento == "draws") {
-        for (std::size_t i = 1; i < sanat.size(); ++i) {
-            std::size_t käytetty = 0;
-            double arvo = -1;
-            try { arvo = std::stod(sanat[i], &käytetty); } catch (const std::exception&) { käytetty = 0; }
-            if (käytetty != sanat[i].size() || !(arvo >= 0.0 && arvo < 1.0))
-                Virhe("a draw must be a number in [0,1): '" + sanat[i] + "'");
-            peli.arvonta.Jonoon(arvo);
-        }
+        Arvonnat(sanat);
     } else if (komento == "seed") {
         if (sanat.size() != 2) Virhe("seed takes N");
-        peli.arvonta.Siemen(static_cast<std::uint32_t>(Kokonaisluku(sanat[1], "N")));
+        const long long n = Kokonaisluku(sanat[1], "N");
+        if (n < 0 || n > 0xFFFFFFFFLL) Virhe("N must be 0 to 4294967295");
+        peli_->arvonta.Siemen(static_cast<std::uint32_t>(n));
     } else if (komento == "answer") {
         for (std::size_t i = 1; i < sanat.size(); ++i) kanavat_.vastaukset.push_back(sanat[i]);
     } else if (komento == "call") {
@@ -160,35 +276,18 @@ void Ajuri::Rivi(const std::string& rivi, std::ostream& ulos) {
     } else if (komento == "days") {
         Päivät(sanat);
     } else if (komento == "print") {
-        for (std::size_t i = 1; i < sanat.size(); ++i) {
-            // A control of a screen first, as the player sees it; then a value of the record.
-            if (const auto ohjain = LueOhjain(peli, sanat[i])) {
-                ulos << sanat[i] << '=' << OhjainTekstinä(*ohjain) << '\n';
-                continue;
-            }
-            const auto kenttä = EtsiKenttä(peli, sanat[i]);
-            if (!kenttä) Virhe("unknown value '" + sanat[i] + "'");
-            ulos << sanat[i] << '=' << KentänArvo(*kenttä) << '\n';
-        }
+        Tulosta(sanat, ulos);
     } else if (komento == "dump") {
-        for (const Kenttä& k : Kentät(peli)) ulos << k.nimi << '=' << YhdelleRiville(KentänArvo(k)) << '\n';
+        for (const Kenttä& k : Kentät(*peli_)) ulos << k.nimi << '=' << YhdelleRiville(KentänArvo(k)) << '\n';
     } else if (komento == "trace") {
-        // Each draw is told as an event with the place in the code that took it.
-        if (sanat.size() != 2 || (sanat[1] != "on" && sanat[1] != "off")) Virhe("trace takes on or off");
-        if (sanat[1] == "on") {
-            peli.arvonta.seuranta = [this](double r, const std::source_location& paikka) {
-                std::string tiedosto = paikka.file_name();
-                const auto src = tiedosto.rfind("/src/");
-                if (src != std::string::npos) tiedosto = tiedosto.substr(src + 5);
-                kanavat_.tapahtumat.push_back("ARVONTA|" + Suoraan(Str(r)) + "|" + tiedosto + ":" +
-                                              std::to_string(paikka.line()));
-            };
-        } else {
-            peli.arvonta.seuranta = nullptr;
-        }
+        Seuranta(sanat);
     } else if (komento == "events") {
         for (const std::string& t : kanavat_.tapahtumat) ulos << t << '\n';
         kanavat_.tapahtumat.clear();
+    } else if (komento == "file") {
+        Tiedosto(sanat, ulos);
+    } else if (komento == "poke") {
+        Muuta(sanat);
     } else {
         Virhe("unknown command '" + komento + "'");
     }

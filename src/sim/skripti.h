@@ -1,6 +1,7 @@
 // The headless runner: plays a farm from a script of commands.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <iosfwd>
 #include <map>
@@ -18,6 +19,7 @@ struct Toiminto {
     int vähintään = 0;  // fewest arguments
     int enintään = 0;   // most arguments
     std::function<void(Peli&, const std::vector<std::string>&)> aja;
+    bool tilaton = false;  // the start screen's: runs without a farm
 };
 
 using Toimintoluettelo = std::map<std::string, Toiminto>;
@@ -65,6 +67,15 @@ private:
     void Uusi(const std::vector<std::string>& sanat);
     void Kutsu(const std::vector<std::string>& sanat);
     void Päivät(const std::vector<std::string>& sanat);
+    void Aseta(const std::vector<std::string>& sanat);
+    void Tulosta(const std::vector<std::string>& sanat, std::ostream& ulos);
+    void Arvonnat(const std::vector<std::string>& sanat);
+    void Seuranta(const std::vector<std::string>& sanat);
+    void Tiedosto(const std::vector<std::string>& sanat, std::ostream& ulos);
+    void Muuta(const std::vector<std::string>& sanat);
+    std::filesystem::path Datatiedosto(const std::string& nimi) const;
+    // Commands that work on the farm refuse to run before there is one.
+    void VaadiTila(const std::string& komento) const;
     void SuljeAvoinRaportti();
 
     TallentavatKanavat kanavat_;

@@ -36,7 +36,15 @@ void TallentavatKanavat::ListaRivi(const std::string& rivi) { tapahtumat.push_ba
 
 void TallentavatKanavat::Raportti(const RaporttiSivu& sivu) {
     raportit.push_back(sivu);
-    tapahtumat.push_back("RAPORTTI|" + YhdelleRiville(sivu.otsikko));
+    Rivit("RAPORTTI|", sivu);
+}
+
+void TallentavatKanavat::Alue(const RaporttiSivu& alue) { Rivit("ALUE|", alue); }
+
+void TallentavatKanavat::Loppu() { tapahtumat.push_back("LOPPU"); }
+
+void TallentavatKanavat::Rivit(const char* otsake, const RaporttiSivu& sivu) {
+    tapahtumat.push_back(otsake + YhdelleRiville(sivu.otsikko));
     for (const RaporttiRivi& rivi : sivu.rivit) {
         char väri[32];
         std::snprintf(väri, sizeof väri, "%u,%u,%u", rivi.väri & 0xFF, (rivi.väri >> 8) & 0xFF, (rivi.väri >> 16) & 0xFF);

@@ -15,6 +15,8 @@ public:
     void Kerro(const std::string& kuva, const std::string& teksti) override;
     void ListaRivi(const std::string& rivi) override;
     void Raportti(const RaporttiSivu& sivu) override;
+    void Alue(const RaporttiSivu& alue) override;
+    void Loppu() override;
     void Laatikko(const std::string& teksti) override;
     std::string Kehote(const std::string& kysymys, const std::string& oletus) override;
     void Ääni(const std::string& nimi) override;
@@ -30,6 +32,8 @@ public:
 
 private:
     std::string SeuraavaVastaus(const std::string& oletus);
+    // A printed page or area: its heading line, then a RIVI line for each printed line.
+    void Rivit(const char* otsake, const RaporttiSivu& sivu);
 };
 
 // A text on one line: a line feed is written \n.

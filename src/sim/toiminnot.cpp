@@ -4,6 +4,7 @@
 
 
 #include "buildings/rakennukset.h"
+#include "buildings/rakentaminen.h"
 #include "contracts/sopimukset.h"
 #include "core/alku.h"
 #include "core/kuukausi.h"
@@ -21,6 +22,64 @@ namespace tanhua {
 Toiminto Pelkkä(void (*f)(Peli&)) {
     return Toiminto{0, 0, [f](Peli& peli, const std::vector<std::string>&) { f(peli); }};
 }
+
+namespace {
+// The way between the main screen and a sub-screen, as the window's frame takes it: the main
+// screen's button opens (a button the stars lock is not there to press), the main screen hides,
+// the screen's own opening work runs and the money plate shows; leaving brings the main screen back,
+// which is where the herd's condition is worked out again.
+struct Ruutu {
+    const char* nimi;
+    const char* nappi;  // its button on the main screen
+};
+constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
+                               {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
+                               {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"}};
+
+struct Poistuminen {
+    const char* toiminto;
+    bool (*sulkee)(const Peli&);  // whether the press leaves the screen, judged before it
+};
+bool Aina(const Peli&) { return true; }
+const Poistuminen POISTUMISET[] = {
+    {"Eläimet.Takaisin", Aina},
+    {"Tuotteet.Sulje", Aina},
+    // Esc hides the card or the panel first; only with neither showing does it leave.
+    {"Tuotteet.Esc", [](const Peli& p) { return !(p.tuoteruutu.akkuna || p.tuoteruutu.taulu); }},
+    {"Rakennukset.Sulje", Aina},
+    {"Työvoima.Takaisin", Aina},
+    {"Pankki.Sulje", Aina},
+    {"Pankki.Esc", [](const Peli& p) { return !(p.pankkiruutu.VakuLappu || p.pankkiruutu.Lappu); }},
+    {"Tarvikkeet.Sulje", Aina},
+};
+
+void Siirtymät(Toimintoluettelo& t) {
+    for (const Ruutu& r : ALARUUDUT) {
+        Toiminto& avaa = t.at(std::string(r.nimi) + ".Avaa");
+        avaa.aja = [työ = avaa.aja, nappi = std::string(r.nappi)](Peli& peli, const std::vector<std::string>& a) {
+            VaadiPainettava(peli, nappi);
+            peli.näkymä.PääruutuNäkyvissä = false;
+            työ(peli, a);
+            NäytäRaha(peli);
+        };
+    }
+    for (const Poistuminen& p : POISTUMISET) {
+        Toiminto& sulje = t.at(p.toiminto);
+        sulje.aja = [työ = sulje.aja, sulkee = p.sulkee](Peli& peli, const std::vector<std::string>& a) {
+            const bool poistuu = sulkee(peli);
+            työ(peli, a);
+            if (poistuu) PalaaPääruutuun(peli);
+        };
+    }
+}
+
+// The start screen's operations need no farm.
+Toiminto Aloitusruudun(void (*f)(Peli&)) {
+    Toiminto t = Pelkkä(f);
+    t.tilaton = true;
+    return t;
+}
+}  // namespace
 
 const Toimintoluettelo& Toiminnot() {
     static const Toimintoluettelo toiminnot = [] {
@@ -42,14 +101,35 @@ const Toimintoluettelo& Toiminnot() {
         {"Sopimustarjous", Pelkkä(Sopimustarjous)},
         {"Päivitälukemat", Pelkkä(Päivitälukemat)},
         {"PäiväKulut", Pelkkä(PäiväKulut)},
+        // The main screen shown again: the star locks of its buttons, the herd, the figures.
+        {"PalaaPääruutuun", Pelkkä(PalaaPääruutuun)},
         // The start screen
         {"Tanhua.NäytäTähti", Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
              if (a[0].size() != 1 || a[0][0] < '0' || a[0][0] > '4')
                  throw std::runtime_error("a star is 0 to 4: '" + a[0] + "'");
+             VaadiPainettava(peli, "Tanhua.TP_Kuva(" + a[0] + ")");
              NäytäTähti(peli, a[0][0] - '0');
          }}},
-        {"Alku.NostaVaikeustasoa", Pelkkä(NostaVaikeustasoa)},
-        {"Alku.LaskeVaikeustasoa", Pelkkä(LaskeVaikeustasoa)},
+        {"Tanhua.Lopetus", Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+             VaadiPainettava(peli, "Tanhua.Lopetus");
+             if (LopetaKysymys(peli)) Lopeta(peli);
+         }}},
+        {"Jalostus", Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
+             const int r = KohdeNimellä(a[0]);
+             if (r < 0 || r >= static_cast<int>(RAKENNUKSIA))
+                 throw std::runtime_error("Jalostus takes a building's key: '" + a[0] + "'");
+             // Outside a day the store load is taken once at the start, as the day's step does;
+             // inside a day the day's figure stands.
+             struct OmaKuorma {
+                 Peli& peli;
+                 bool oma = !peli.päivänKuorma;
+                 ~OmaKuorma() { if (oma) peli.päivänKuorma.reset(); }
+             } kuorma{peli};
+             if (kuorma.oma) peli.päivänKuorma = VarastoKuorma(peli.m);
+             Jalostus(peli, static_cast<Rakennus>(r));
+         }}},
+        {"Alku.NostaVaikeustasoa", Aloitusruudun(NostaVaikeustasoa)},
+        {"Alku.LaskeVaikeustasoa", Aloitusruudun(LaskeVaikeustasoa)},
         {"Tilanne.UusiTilanne", Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { UusiTilanne(peli); }}},
         };
         EläintenToiminnot(t);
@@ -59,6 +139,7 @@ const Toimintoluettelo& Toiminnot() {
         RakennustenToiminnot(t);
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
+        Siirtymät(t);
         return t;
     }();
     return toiminnot;

@@ -84,7 +84,7 @@ std::string Message::Kysy(const std::string& teksti, int tyyli) {
 }
 
 void Message::Vastaa(const char* vastaus) {
-    SoitaÄäni(peli_, "klik");
+    // The click's sound is the game's: Kysy plays it once the answer is back.
     peli_.näkymä.MsgVastaus = vastaus;
     accept();
     ArvoTausta();  // a new background for the next time

@@ -143,7 +143,6 @@ void Pääikkuna::Päivitä() {
 
 void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
     Toimi([&] {
-        SoitaÄäni(peli_, "klik");
         peli_.näkymä.PääruutuNäkyvissä = false;
         if (ruutu == eläimet_) eläimet_->Avaa();
         if (ruutu == tuotteet_) tuotteet_->Avaa();
@@ -183,9 +182,9 @@ void Pääikkuna::NäytäPörssiraportti() {
 }
 
 void Pääikkuna::Lopeta() {
-    bool lopeta = false;
-    Toimi([&] { lopeta = LopetaKysymys(peli_); });
-    if (lopeta) lopetus();
+    Toimi([&] {
+        if (LopetaKysymys(peli_)) tanhua::Lopeta(peli_);
+    });
 }
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {

@@ -33,6 +33,8 @@ void QtKanavat::Raportti(const RaporttiSivu& sivu) {
     ikkuna_->pino()->setCurrentWidget(ikkuna_->raportti());
 }
 
+void QtKanavat::Loppu() { ikkuna_->lopetus(); }
+
 void QtKanavat::Laatikko(const std::string& teksti) {
     QMessageBox::information(ikkuna_, "Tanhua", QString::fromStdString(teksti));
 }

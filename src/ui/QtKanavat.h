@@ -19,6 +19,7 @@ public:
     void OdotaIkkunaa() override;
     void ListaRivi(const std::string& rivi) override;
     void Raportti(const RaporttiSivu& sivu) override;
+    void Loppu() override;
     void Laatikko(const std::string& teksti) override;
     std::string Kehote(const std::string& kysymys, const std::string& oletus) override;
     void Ääni(const std::string& nimi) override;

@@ -48,19 +48,72 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
     struct Tapaus { const char* skripti; const char* virhe; };
     for (const Tapaus& c : {Tapaus{"new A Vapaa 1 on\nfly\n", "line 2: unknown command 'fly'"},
                             {"new A Vapaa 1 on\nprint Rahaa\n", "line 2: unknown value 'Rahaa'"},
-                            {"call Lentää\n", "line 1: unknown operation 'Lentää'"},
-                            {"# comment\n\nnew A Jotain 1 on\n", "line 3: GOAL must be"},
+                            {"new A Vapaa 1 on\ncall Lentää\n", "line 2: unknown operation 'Lentää'"},
+                            {"# \"a quote in a comment\n\nnew A Jotain 1 on\n", "line 3: GOAL must be"},
                             {"new A Vapaa 3 on\n", "line 1: DIFFICULTY must be 0, 1 or 2"},
-                            {"draws 0.5 1.0\n", "line 1: a draw must be a number in [0,1)"},
-                            {"days kaksi\n", "line 1: N must be a whole number"},
-                            {"call SeuraavaPäivä 3\n", "line 1: wrong number of arguments"},
+                            {"draws 0.5 1.0\n", "line 1: a draw must be a decimal number in [0,1)"},
+                            {"draws 0x0.8p0\n", "line 1: a draw must be a decimal number"},
+                            {"draws -0.0\n", "line 1: a draw must be a decimal number"},
+                            {"seed -1\n", "line 1: N must be 0 to 4294967295"},
+                            {"new A Vapaa 1 on\ndays kaksi\n", "line 2: N must be a whole number"},
+                            {"new A Vapaa 1 on\ncall SeuraavaPäivä 3\n", "line 2: wrong number of arguments"},
                             {"set Raha\n", "line 1: set takes NAME VALUE"},
+                            {"new A Vapaa 1 on\nprint Tanhua.TP_Kuva(5)\n", "line 2: unknown value 'Tanhua.TP_Kuva(5)'"},
                             {"new A Vapaa 1 on\ncall Eläimet.Osta Lehmus 1\n", "line 2: unknown animal card 'Lehmus'"},
-                            {"new A Vapaa 1 on\ncall Tuotteet.MyyKaikki Kulta\n", "line 2: unknown product 'Kulta'"}}) {
+                            {"new A Vapaa 1 on\ncall Tuotteet.MyyKaikki Kulta\n", "line 2: unknown product 'Kulta'"},
+                            // Nothing is run on a farm that isn't there.
+                            {"days 1\n", "line 1: days needs a farm"},
+                            {"set Raha 5\n", "line 1: set Raha needs a farm"},
+                            {"call SeuraavaPäivä\n", "line 1: call SeuraavaPäivä needs a farm"},
+                            {"new A Vapaa 1 on\nanswer Kyllä\ncall Tilanne.UusiTilanne\ndays 1\n", "line 4: days needs a farm"},
+                            // Files of the data folder only, and bytes that are there.
+                            {"file ../Asetukset.dat\n", "line 1: a file of the data folder is named without folders"},
+                            {"file Puuttuu.sav\n", "line 1: no file 'Puuttuu.sav'"},
+                            {"poke Asetukset.dat 100000 1\n", "line 1: OFFSET must be within the file's"},
+                            {"poke Asetukset.dat 0 256\n", "line 1: BYTE must be 0 to 255"}}) {
         const Ajo ajo = Aja(c.skripti);
         EXPECT_EQ(ajo.tila, 1) << c.skripti;
-        EXPECT_NE(ajo.virheet.find(c.virhe), std::string::npos) << ajo.virheet;
+        EXPECT_NE(ajo.virheet.find(c.virhe), std::string::npos) << c.skripti << ajo.virheet;
     }
+}
+
+TEST(Runner, PrintsWhatTheMainScreensControlsShow) {
+    // A warm clear day; the stars show with the lock on and hide with it off.
+    const Ajo ajo = Aja("new A Vapaa 1 on\nset Kuukausi 7\ndraws 0.5 0.1 0.9 0.9\ndays 1\n"
+                        "print Tanhua.AsteLuku Tanhua.Sää Tanhua.TP_Kuva(0) Tanhua.Lista Tanhua.Command9 Tanhua.Mittari4\n"
+                        "set TähtiLukitus False\ncall Päivitälukemat\nprint Tanhua.TP_Kuva(4)\n");
+    EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
+    EXPECT_EQ(ajo.ulos,
+              "Tanhua.AsteLuku=+ 18 °c|215,84,36\n"
+              "Tanhua.Sää=aurinkoinen.gif|Aurinko paistaa, taivas on kirkas\n"
+              "Tanhua.TP_Kuva(0)=Tähti2.gif|Ensimmäinen tähti. Klikkaa tähteä nähdäksesti mitä sinun on saavutettava, "
+              "jotta tilasi ansaitsee kyseisen tähden.\n"
+              "Tanhua.Lista=piilossa\nTanhua.Command9=Tarvikkeet\nTanhua.Mittari4=100\nTanhua.TP_Kuva(4)=piilossa\n");
+}
+
+TEST(Runner, APressAPlayerCouldNotMakeIsSkippedAndTheScriptReadsOn) {
+    // The stars keep the supplies shut and hide with the lock off; the script goes on to its end.
+    const Ajo ajo = Aja("new A Vapaa 1 on\nevents\ncall Tarvikkeet.Avaa\nset TähtiLukitus False\ncall Päivitälukemat\n"
+                        "call Tanhua.NäytäTähti 2\nprint Päivä\nevents\n");
+    EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
+    EXPECT_EQ(ajo.ulos, "Päivä=1\nOHITETTU|Tarvikkeet.Avaa\nOHITETTU|Tanhua.NäytäTähti\n");
+}
+
+TEST(Runner, TellsTheEndOfTheProgramAndReadsOn) {
+    const Ajo ajo = Aja("new A Vapaa 1 on\nset Äänitehosteet True\ndraws 0.1 0.1\nevents\nanswer Kyllä\n"
+                        "call Tanhua.Lopetus\nevents\nprint Päivä\n");
+    EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
+    // The button clicks, the box asks, its answer clicks, the game ends.
+    EXPECT_EQ(ajo.ulos,
+              "ÄÄNI|klik1\nVIESTI|1|Oletko varma että lopetat pelin suoraan ilman eläkkeelle siirtymistä?|Kyllä\n"
+              "ÄÄNI|klik1\nLOPPU\nPäivä=1\n");
+}
+
+TEST(Runner, ReadsAndTampersWithTheDataFolderBytes) {
+    // Settings need no farm and hold for the run only: the file keeps its bytes.
+    const Ajo ajo = Aja("set Musiikki False\nprint Musiikki\npoke asetukset.dat 0 9\nfile Asetukset.dat\n");
+    EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
+    EXPECT_EQ(ajo.ulos.substr(0, 43), "Musiikki=False\n\\x09alse\\x0D\\x0ATrue\\x0D\\x0A");
 }
 
 TEST(Runner, SetStoresByWidthAndPrintsWithoutTheBlank) {
@@ -118,13 +171,17 @@ TEST(Scenarios, TranscriptsMatch) {
 TEST(Runner, TheProgramExitsWithTheScriptsStatus) {
     testi::Väliaikainen kansio;
     const fs::path skripti = kansio.polku() / "s.tanhua";
-    struct Tapaus { const char* sisältö; int tila; };
-    for (const Tapaus& c : {Tapaus{"new A Vapaa 1 off\ndays 3\nprint Päivä\n", 0}, {"hyppää\n", 1}}) {
-        std::ofstream(skripti) << c.sisältö;
-        const std::string komento = std::string(TANHUA_SIM_EXE) + " --data-dir " + (kansio.polku() / "Data").string() +
-                                    " " + skripti.string() + " > /dev/null 2>&1";
-        const int tila = std::system(komento.c_str());
-        EXPECT_EQ(WEXITSTATUS(tila), c.tila) << c.sisältö;
+    std::ofstream(skripti) << "new A Vapaa 1 off\ndays 3\nprint Päivä\n";
+    std::ofstream(kansio.polku() / "huono.tanhua") << "hyppää\n";
+    const std::string data = " --data-dir " + (kansio.polku() / "Data").string();
+    struct Tapaus { std::string argumentit; int tila; };
+    for (const Tapaus& c : {Tapaus{data + " " + skripti.string(), 0},
+                            {data + " " + (kansio.polku() / "huono.tanhua").string(), 1},
+                            {data + " " + kansio.polku().string(), 2},  // a folder is no script
+                            {" --data-dir", 2},                         // the option without its folder
+                            {data + " " + (kansio.polku() / "puuttuu.tanhua").string(), 2}}) {
+        const int tila = std::system((std::string(TANHUA_SIM_EXE) + c.argumentit + " > /dev/null 2>&1").c_str());
+        EXPECT_EQ(WEXITSTATUS(tila), c.tila) << c.argumentit;
     }
 }
 
