@@ -1,10 +1,70 @@
 // The controls of the building screen as the player sees them.
-#include "core/ohjaimet.h"
+#include <string>
 
-#include "core/peli.h"
+#include "../core/kanavat.h"
+#include "../core/ohjaimet.h"
+#include "../core/peli.h"
+#include "rakentaminen.h"
 
 namespace tanhua {
 
-void RakennusruudunOhjaimet(Ohjainluettelo& l) { (void)l; }
+namespace {
+
+const RakennusRuutuTila& R(const Peli& p) { return p.rakennusruutu; }
+bool Valittu(const Peli& p) { return R(p).kohde >= 0; }
+
+// A target's picture: its file, with the pointer's tip under the heading "Rakennus : " and the
+// name where the picture has one.
+Ohjain Kuva(std::size_t kohde) {
+    const std::string_view tiedosto =
+        OnVarastotila(kohde) ? TILATAULU[kohde - RAKENNUKSIA].kuva : RAKENNUSTAULU[kohde].kuva;
+    Ohjain o = Näkyvä(std::string(tiedosto));
+    const KatalogiRivi& rivi = RAKENNUSKATALOGI[kohde];
+    if (!rivi.vihjeOtsikko.empty()) o.vihje = std::string(rivi.vihjeOtsikko) + "\n" + std::string(rivi.vihje);
+    return o;
+}
+
+// A target's day label: its days, or "Lukittu" in red over a building the stars lock. Only a
+// building's label changes colour; a store's never turns red.
+Ohjain PäiväLabel(const Peli& p, std::size_t kohde) {
+    if (!R(p).päivätNäkyvät[kohde]) return Piilossa();
+    Ohjain o = Näkyvä(R(p).päivät[kohde]);
+    if (!OnVarastotila(kohde)) o.väri = R(p).päivätPunaisella[kohde] ? PUNAINEN : MUSTA;
+    return o;
+}
+
+}  // namespace
+
+void RakennusruudunOhjaimet(Ohjainluettelo& l) {
+    auto yksi = [&l](const std::string& nimi, std::function<Ohjain(const Peli&)> f) {
+        l["Rakennukset." + nimi] = {[f](const Peli& p, int) { return f(p); }};
+    };
+    // Picture1 (Navetta) to Picture16 (Pakkaamo), the order the work orders are counted down in.
+    l["Rakennukset.Picture"] = {[](const Peli&, int i) { return Kuva(TYÖMAIDEN_JÄRJESTYS[i - 1]); }, TYÖMAITA, 1};
+    for (const std::size_t kohde : TYÖMAIDEN_JÄRJESTYS)
+        yksi("Rakenne" + std::string(RAKENNUSKATALOGI[kohde].avain) + "z",
+             [kohde](const Peli& p) { return PäiväLabel(p, kohde); });
+
+    // The sizes as they stood when the screen was opened.
+    yksi("navettaz", [](const Peli& p) { return Näkyvä(R(p).navettaz); });
+    yksi("siiloz", [](const Peli& p) { return Näkyvä(R(p).siiloz); });
+    yksi("varastoz", [](const Peli& p) { return Näkyvä(R(p).varastoz); });
+
+    // The chosen target's order panel; empty until a target is chosen.
+    yksi("Kohde", [](const Peli& p) {
+        return Näkyvä(Valittu(p) ? std::string(RAKENNUSKATALOGI[R(p).kohde].avain) : std::string());
+    });
+    yksi("taso", [](const Peli& p) { return JosNäkyy(!R(p).taso.empty(), [&] { return R(p).taso; }); });
+    // From level 1 the building's production panel takes the text's place.
+    yksi("info", [](const Peli& p) { return JosNäkyy(!R(p).paneeli, [&] { return R(p).info; }); });
+    yksi("hintanäky", [](const Peli& p) { return Näkyvä(Valittu(p) ? Str(R(p).hinta) : std::string()); });
+    yksi("Kesto", [](const Peli& p) { return Näkyvä(Valittu(p) ? Str(R(p).Kesto) + " päivää" : std::string()); });
+    yksi("määrä", [](const Peli& p) { return Näkyvä(Valittu(p) ? Luku(R(p).määrä) : std::string()); });
+    yksi("määräplus", [](const Peli& p) { return Näkyvä("+", R(p).askeleetKäytössä); });
+    yksi("määrämiinus", [](const Peli& p) { return Näkyvä("-", R(p).askeleetKäytössä); });
+    yksi("Command2", [](const Peli& p) { return Näkyvä(R(p).Command2, R(p).Command2Käytössä); });
+    yksi("Command1", [](const Peli&) { return Näkyvä("Takaisin"); });
+    yksi("Ohje", [](const Peli& p) { return JosNäkyy(p.m.OhjeetPäällä, [&] { return R(p).ohje; }); });
+}
 
 }  // namespace tanhua

@@ -70,6 +70,7 @@ void NäytäTyömaat(Peli& peli) {
 }
 
 void AvaaRakennukset(Peli& peli) {
+    SoitaÄäni(peli, "klik");
     const Muuttujat& m = peli.m;
     RakennusRuutuTila& r = peli.rakennusruutu;
     r.auki = true;
@@ -80,7 +81,20 @@ void AvaaRakennukset(Peli& peli) {
     if (m.OhjeetPäällä) r.ohje = std::string(OHJE_RAKENNUKSET);
 }
 
-void SuljeRakennukset(Peli& peli) { peli.rakennusruutu.auki = false; }
+void SuljeRakennukset(Peli& peli) {
+    SoitaÄäni(peli, "klik");
+    peli.rakennusruutu.auki = false;
+}
+
+bool TilausKäytössä(const Muuttujat& m, std::size_t kohde) {
+    return OnVarastotila(kohde) || m.Rak[kohde] < SUURIN_TASO;
+}
+
+int KuvanNumero(std::size_t kohde) {
+    for (std::size_t i = 0; i < TYÖMAITA; ++i)
+        if (TYÖMAIDEN_JÄRJESTYS[i] == kohde) return static_cast<int>(i) + 1;
+    return 0;
+}
 
 void ValitseKohde(Peli& peli, std::size_t kohde) {
     const Muuttujat& m = peli.m;
@@ -103,7 +117,7 @@ void ValitseKohde(Peli& peli, std::size_t kohde) {
         const Byte taso = m.Rak[kohde];
         r.askeleetKäytössä = false;
         r.Command2 = taso == 0 ? "Rakenna" : "Laajenna";
-        r.Command2Käytössä = taso < SUURIN_TASO;
+        r.Command2Käytössä = TilausKäytössä(m, kohde);
         r.taso = Luku(taso) + " / 5";
         r.paneeli = taso > 0;
     }
@@ -141,7 +155,8 @@ void TilaaKohde(Peli& peli) {
     if (r.hinta > m.Raha) {
         Kieltäydy(peli, Rivitä({"Rahasi eivät riitä!", "", "Rahatilanteesi on " + Str(m.Raha),
                                "Rakennus maksaa " + Str(r.hinta),
-                               "Sinulta puuttuu " + Str(CSng(static_cast<double>(r.hinta) - m.Raha))}));
+                               // The shortfall is worked in double precision and told unnarrowed.
+                               "Sinulta puuttuu " + Str(static_cast<double>(r.hinta) - static_cast<double>(m.Raha))}));
         return;
     }
     SoitaÄäni(peli, "siirto");

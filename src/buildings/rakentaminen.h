@@ -25,9 +25,15 @@ double TilauksenHinta(const Muuttujat& m, std::size_t kohde, int askel);
 // The days of one order: a store's order on a running one takes half the days.
 Integer TilauksenKesto(const Muuttujat& m, std::size_t kohde, int askel);
 
-// The screen opens: the three sizes, the day labels and the first-timer's hint.
+// Whether Command2 can be pressed for a target: a store always, a building below level 5.
+bool TilausKäytössä(const Muuttujat& m, std::size_t kohde);
+// The number of a target's picture, Picture1 (Navetta) to Picture16 (Pakkaamo), in the order the
+// work orders are counted down.
+int KuvanNumero(std::size_t kohde);
+
+// The screen opens with a click: the three sizes, the day labels and the first-timer's hint.
 void AvaaRakennukset(Peli& peli);
-// The screen closes.
+// The close button: a click, and the screen closes.
 void SuljeRakennukset(Peli& peli);
 
 // A click on a target's picture or its day label.

@@ -106,6 +106,9 @@ void TyhjennäValinta(TarvikeRuutuTila& r) {
 void NäytäListaNapista(Peli& peli, int lista) {
     TarvikeRuutuTila& r = peli.tarvikeruutu;
     SoitaÄäni(peli, "klik");
+    // Nothing breaks while the shop is open, so this only matters to a press made without opening
+    // it first: the list shown is the one opening the shop would have given.
+    TäsmääTarvikelistat(peli);
     r.näkyvä = lista;
     // The list is filled anew, so nothing on it is chosen.
     TyhjennäValinta(r);
@@ -169,10 +172,9 @@ void PalautaKauppaan(Peli& peli, Tarvike k) {
     TäytäLista(r);
 }
 
-void AvaaTarvikkeet(Peli& peli) {
+void TäsmääTarvikelistat(Peli& peli) {
     TarvikeRuutuTila& r = peli.tarvikeruutu;
-    r.auki = true;
-    // An owned item that broke while the screen was closed goes to the end of its shop list.
+    // An owned item that broke meanwhile goes to the end of its shop list.
     for (TarvikeRivinro rivi : std::vector<TarvikeRivinro>(r.Tavarat))
         if (!peli.m.Tarv[Tarvikkeena(rivi)]) PalautaKauppaan(peli, Tarvikkeena(rivi));
     // An item owned but not on the owned list goes to its end, in catalogue order.
@@ -187,6 +189,12 @@ void AvaaTarvikkeet(Peli& peli) {
         }
     }
     TäytäLista(r);
+}
+
+void AvaaTarvikkeet(Peli& peli) {
+    SoitaÄäni(peli, "klik");
+    peli.tarvikeruutu.auki = true;
+    TäsmääTarvikelistat(peli);
 }
 
 void SuljeTarvikkeet(Peli& peli) {
@@ -227,7 +235,8 @@ void OstaTarvike(Peli& peli) {
     if (static_cast<double>(hinta) > m.Raha) {
         Kieltäydy(peli, Rivitä({"Rahasi eivät riitä!", "", "Rahatilanteesi on " + Str(m.Raha),
                                "Tarvike maksaa " + Str(hinta),
-                               "Sinulta puuttuu " + Str(CSng(static_cast<double>(hinta) - m.Raha))}));
+                               // The shortfall is worked in double precision and told unnarrowed.
+                               "Sinulta puuttuu " + Str(static_cast<double>(hinta) - static_cast<double>(m.Raha))}));
         return;
     }
     SoitaÄäni(peli, "klik");

@@ -33,9 +33,11 @@ void RakennaTarvikelistat(Peli& peli);
 // its shop list and out of Tavarat and of the list shown.
 void PalautaKauppaan(Peli& peli, Tarvike k);
 
-// The screen opens: any item whose flag changed while it was closed is moved to its right list
-// (a broken one to the end of its shop list, keeping the others' order), and the list shown is
-// filled again.
+// The lists brought in step with the flags: an item whose flag changed meanwhile is moved to its
+// right list (a broken one to the end of its shop list, keeping the others' order), and the list
+// shown is filled again.
+void TäsmääTarvikelistat(Peli& peli);
+// The screen opens with a click and brings its lists in step with the flags.
 void AvaaTarvikkeet(Peli& peli);
 // Command1: leaves the screen.
 void SuljeTarvikkeet(Peli& peli);

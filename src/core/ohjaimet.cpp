@@ -72,7 +72,7 @@ std::string OhjainTekstinä(const Ohjain& o) {
         std::snprintf(väri, sizeof väri, "|%u,%u,%u", *o.väri & 0xFF, (*o.väri >> 8) & 0xFF, (*o.väri >> 16) & 0xFF);
         t += väri;
     } else if (!o.vihje.empty()) {
-        t += '|' + o.vihje;
+        t += '|' + OhjainTekstinä(Näkyvä(o.vihje));  // a hint's line feeds are written "\n" too
     }
     return t;
 }

@@ -18,35 +18,30 @@ std::size_t KohdeSanasta(const std::string& sana) {
     return static_cast<std::size_t>(kohde);
 }
 
-void VaadiAuki(const Peli& peli) {
-    if (!peli.rakennusruutu.auki)
-        throw std::runtime_error("the building screen is not open: call Rakennukset.Avaa first");
-}
+std::string Kuva(std::size_t kohde) { return "Rakennukset.Picture(" + std::to_string(KuvanNumero(kohde)) + ")"; }
 
-// Sets a store's step as the steppers would, without their sounds.
-void AsetaMäärä(Peli& peli, const std::string& sana) {
-    RakennusRuutuTila& r = peli.rakennusruutu;
-    const KatalogiRivi& rivi = RAKENNUSKATALOGI[static_cast<std::size_t>(r.kohde)];
-    for (int i = 0; i < rivi.askelia; ++i) {
-        if (std::to_string(rivi.määrät[static_cast<std::size_t>(i)]) == sana) {
-            r.askel = i;
-            r.määrä = rivi.määrät[static_cast<std::size_t>(i)];
-            Aseta(r.hinta, TilauksenHinta(peli.m, static_cast<std::size_t>(r.kohde), i));
-            AskelMäärä(peli, 0);
-            return;
-        }
-    }
+// The step of a target's row whose size is the word; a size not on the row is a malformed line.
+int AskelSanasta(std::size_t kohde, const std::string& sana) {
+    const KatalogiRivi& rivi = RAKENNUSKATALOGI[kohde];
     std::string askeleet;
-    for (int i = 0; i < rivi.askelia; ++i)
-        askeleet += (i ? ", " : "") + std::to_string(rivi.määrät[static_cast<std::size_t>(i)]);
+    for (int i = 0; i < rivi.askelia; ++i) {
+        const std::string koko = std::to_string(rivi.määrät[static_cast<std::size_t>(i)]);
+        if (koko == sana) return i;
+        askeleet += (i ? ", " : "") + koko;
+    }
     throw std::runtime_error("the size of " + std::string(rivi.avain) + " is one of " + askeleet + ": '" + sana + "'");
 }
 
-Toiminto Auki(void (*f)(Peli&)) {
-    return Toiminto{0, 0, [f](Peli& peli, const std::vector<std::string>&) {
-                        VaadiAuki(peli);
-                        f(peli);
-                    }};
+// The day labels are refreshed when the screen opens, and stars and orders only change while it
+// is closed; a press on the closed screen reads them as opening it would have left them.
+void LabelitAjan(Peli& peli) {
+    if (!peli.rakennusruutu.auki) NäytäTyömaat(peli);
+}
+
+// The steppers pressed until the store's step is reached, as a player would.
+void AsetaAskel(Peli& peli, int askel) {
+    for (int i = 0; i < 3 && peli.rakennusruutu.askel != askel; ++i)
+        AskelMäärä(peli, askel > peli.rakennusruutu.askel ? 1 : -1);
 }
 
 }  // namespace
@@ -54,20 +49,42 @@ Toiminto Auki(void (*f)(Peli&)) {
 void RakennustenToiminnot(Toimintoluettelo& t) {
     t["TyömaaPäivä"] = Pelkkä(TyömaaPäivä);
     t["Rakennukset.Avaa"] = Pelkkä(AvaaRakennukset);
-    t["Rakennukset.Sulje"] = Auki(SuljeRakennukset);
-    t["Rakennukset.NäytäTyömaat"] = Auki(NäytäTyömaat);
+    // Leaving a screen that isn't showing is no press a player can make.
+    t["Rakennukset.Sulje"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                          if (!peli.rakennusruutu.auki) Ohita();
+                                          SuljeRakennukset(peli);
+                                      }};
+    t["Rakennukset.NäytäTyömaat"] = Pelkkä(NäytäTyömaat);
     t["Rakennukset.Valitse"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                            VaadiAuki(peli);
-                                            ValitseKohde(peli, KohdeSanasta(a[0]));
+                                            const std::size_t kohde = KohdeSanasta(a[0]);
+                                            VaadiPainettava(peli, Kuva(kohde));
+                                            ValitseKohde(peli, kohde);
                                         }};
-    t["Rakennukset.määräplus"] = Auki([](Peli& peli) { AskelMäärä(peli, 1); });
-    t["Rakennukset.määrämiinus"] = Auki([](Peli& peli) { AskelMäärä(peli, -1); });
-    // With a target named its picture is clicked first; with a size the step is set to it.
-    // Without arguments the button takes the target that is chosen.
+    t["Rakennukset.määräplus"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                              VaadiPainettava(peli, "Rakennukset.määräplus");
+                                              AskelMäärä(peli, 1);
+                                          }};
+    t["Rakennukset.määrämiinus"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                                VaadiPainettava(peli, "Rakennukset.määrämiinus");
+                                                AskelMäärä(peli, -1);
+                                            }};
+    // With a target named its picture is clicked first; with a size the steppers are pressed to
+    // it. Without arguments the button takes the target that is chosen. Every check comes before
+    // the first click, so a press that can't be made changes nothing.
     t["Rakennukset.Rakenna"] = Toiminto{0, 2, [](Peli& peli, const std::vector<std::string>& a) {
-                                            VaadiAuki(peli);
-                                            if (!a.empty()) ValitseKohde(peli, KohdeSanasta(a[0]));
-                                            if (a.size() > 1) AsetaMäärä(peli, a[1]);
+                                            if (a.empty()) {
+                                                VaadiPainettava(peli, "Rakennukset.Command2");
+                                                LabelitAjan(peli);
+                                                TilaaKohde(peli);
+                                                return;
+                                            }
+                                            const std::size_t kohde = KohdeSanasta(a[0]);
+                                            const int askel = a.size() > 1 ? AskelSanasta(kohde, a[1]) : 0;
+                                            VaadiPainettava(peli, Kuva(kohde));
+                                            if (!TilausKäytössä(peli.m, kohde)) Ohita();
+                                            LabelitAjan(peli);
+                                            ValitseKohde(peli, kohde);
+                                            AsetaAskel(peli, askel);
                                             TilaaKohde(peli);
                                         }};
 }

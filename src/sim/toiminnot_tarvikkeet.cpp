@@ -10,39 +10,40 @@ namespace tanhua {
 
 namespace {
 
-void VaadiAuki(const Peli& peli) {
-    if (!peli.tarvikeruutu.auki)
-        throw std::runtime_error("the supplies screen is not open: call Tarvikkeet.Avaa first");
-}
-
-// A row the player can click: it must stand on the list shown.
-TarvikeRivinro Rivi(const Peli& peli, const std::string& sana) {
+// A row by its name; a name no supply has is a malformed line.
+TarvikeRivinro RiviSanasta(const std::string& sana) {
     const TarvikeRivinro rivi = TarvikeNimellä(sana);
     if (rivi < 0)
         throw std::runtime_error("unknown supply '" + sana +
                                  "': give its key or its shown name (Lypsykone, \"Sähkö paimenpoika\", Aura, ...)");
-    const auto& lista = peli.tarvikeruutu.Lista;
-    if (std::find(lista.begin(), lista.end(), rivi) == lista.end())
-        throw std::runtime_error("'" + sana + "' is not on the list shown (show it with Tarvikkeet.Yleiset, "
-                                 "Tarvikkeet.Lisälaitteet, Tarvikkeet.Työkoneet or Tarvikkeet.Omat)");
     return rivi;
 }
 
-// The action button as it reads now, with a row clicked first when one is named.
+// A row the player can click: the shop must be open to them and the row on the list shown.
+TarvikeRivinro Rivi(const Peli& peli, const std::string& sana) {
+    const TarvikeRivinro rivi = RiviSanasta(sana);
+    VaadiPainettava(peli, "Tarvikkeet.Lista");
+    const auto& lista = peli.tarvikeruutu.Lista;
+    if (std::find(lista.begin(), lista.end(), rivi) == lista.end()) Ohita();
+    return rivi;
+}
+
+// The action button as it reads now, with a row clicked first when one is named. A button that
+// reads the other word is not the one the script asked for.
 Toiminto Toimi(const char* teksti) {
     return Toiminto{0, 1, [teksti](Peli& peli, const std::vector<std::string>& a) {
-                        VaadiAuki(peli);
-                        if (peli.tarvikeruutu.Command5 != teksti)
-                            throw std::runtime_error("the action button reads '" + peli.tarvikeruutu.Command5 +
-                                                     "', not '" + teksti + "'");
-                        if (!a.empty()) ValitseTarvike(peli, Rivi(peli, a[0]));
+                        const TarvikeRivinro rivi = a.empty() ? -1 : Rivi(peli, a[0]);
+                        VaadiPainettava(peli, "Tarvikkeet.Command5");
+                        if (peli.tarvikeruutu.Command5 != teksti) Ohita();
+                        if (rivi >= 0) ValitseTarvike(peli, rivi);
                         Command5Tarvikkeet(peli);
                     }};
 }
 
-Toiminto Auki(void (*f)(Peli&)) {
-    return Toiminto{0, 0, [f](Peli& peli, const std::vector<std::string>&) {
-                        VaadiAuki(peli);
+// A list button, pressed only when the player could press it.
+Toiminto Nappi(const char* ohjain, void (*f)(Peli&)) {
+    return Toiminto{0, 0, [ohjain, f](Peli& peli, const std::vector<std::string>&) {
+                        VaadiPainettava(peli, ohjain);
                         f(peli);
                     }};
 }
@@ -50,23 +51,25 @@ Toiminto Auki(void (*f)(Peli&)) {
 }  // namespace
 
 void TarvikkeidenToiminnot(Toimintoluettelo& t) {
+    // The main screen's button stays disabled until the stars open the shop.
     t["Tarvikkeet.Avaa"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
-                                        if (!TarvikkeetAuki(peli.m))
-                                            throw std::runtime_error(
-                                                "the supplies button of the main screen is locked until the first star");
+                                        if (!TarvikkeetAuki(peli.m)) Ohita();
                                         AvaaTarvikkeet(peli);
                                     }};
-    t["Tarvikkeet.Yleiset"] = Auki(NäytäYleiset);          // Command4
-    t["Tarvikkeet.Lisälaitteet"] = Auki(NäytäLisälaitteet);  // Command3
-    t["Tarvikkeet.Työkoneet"] = Auki(NäytäTyökoneet);      // Command2
-    t["Tarvikkeet.Omat"] = Auki(NäytäOmat);                // Command6
+    t["Tarvikkeet.Yleiset"] = Nappi("Tarvikkeet.Command4", NäytäYleiset);
+    t["Tarvikkeet.Lisälaitteet"] = Nappi("Tarvikkeet.Command3", NäytäLisälaitteet);
+    t["Tarvikkeet.Työkoneet"] = Nappi("Tarvikkeet.Command2", NäytäTyökoneet);
+    t["Tarvikkeet.Omat"] = Nappi("Tarvikkeet.Command6", NäytäOmat);
     t["Tarvikkeet.Valitse"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                           VaadiAuki(peli);
                                            ValitseTarvike(peli, Rivi(peli, a[0]));
                                        }};
     t["Tarvikkeet.Osta"] = Toimi("Osta");
     t["Tarvikkeet.Myy"] = Toimi("Myy");
-    t["Tarvikkeet.Sulje"] = Auki(SuljeTarvikkeet);
+    // Leaving a screen that isn't showing is no press a player can make.
+    t["Tarvikkeet.Sulje"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                         if (!peli.tarvikeruutu.auki) Ohita();
+                                         SuljeTarvikkeet(peli);
+                                     }};
 }
 
 }  // namespace tanhua

@@ -4,6 +4,7 @@
 // own
 #include "Pääikkuna.h"
 #include "buildings/rakentaminen.h"
+#include "core/ohjaimet.h"
 #include "core/viestit.h"
 // Qt
 #include <QEvent>
@@ -14,11 +15,27 @@
 
 namespace tanhua::ui {
 
+std::string Rakennukset::PäiväLabel(std::size_t kohde) {
+    return "Rakenne" + std::string(RAKENNUSKATALOGI[kohde].avain) + "z";
+}
+
 namespace {
-std::string Kuvatiedosto(std::size_t kohde) {
-    const std::string_view kuva =
-        kohde < RAKENNUKSIA ? RAKENNUSTAULU[kohde].kuva : TILATAULU[kohde - RAKENNUKSIA].kuva;
-    return "Kuvat/Rakennukset/" + std::string(kuva);
+// A control of this screen as the game reads it.
+Ohjain Lue(const Peli& peli, const std::string& nimi) { return LueOhjain(peli, "Rakennukset." + nimi).value_or(Piilossa()); }
+
+std::string Kuvatiedosto(const Peli& peli, std::size_t kohde) {
+    return "Kuvat/Rakennukset/" + Lue(peli, "Picture(" + std::to_string(KuvanNumero(kohde)) + ")").arvo;
+}
+
+// A label shows its control's text, and hides with it.
+void Näytä(QLabel* label, const Ohjain& o) {
+    label->setText(Q(o.arvo));
+    label->setVisible(o.näkyvissä);
+}
+void Näytä(QPushButton* nappi, const Ohjain& o) {
+    nappi->setText(Q(o.arvo));
+    nappi->setVisible(o.näkyvissä);
+    nappi->setEnabled(o.käytössä);
 }
 }  // namespace
 
@@ -28,7 +45,7 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     AsetaKuva(KuvaJosOn(peli_, "Kuvat/varasto.jpg"));
     aihe_ = AiheOtsikko("Rakennukset", this);
     ohje_ = OhjeRivi(this);
-    sulje_ = new QPushButton("Takaisin", this);
+    sulje_ = new QPushButton(Q(Lue(peli_, "Command1").arvo), this);
     sulje_->setObjectName("Command1");
     Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
     sulje_->setMinimumSize(140, 40);
@@ -41,15 +58,19 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     info_ = Teksti("", 10, kortti, false);
     info_->setWordWrap(true);
     info_->setMinimumHeight(90);
+    nimi_->setObjectName("Kohde");
+    taso_->setObjectName("taso");
+    info_->setObjectName("info");
     hinta_ = Teksti("", 12, kortti);
     hinta_->setObjectName("hintanäky");
     kesto_ = Teksti("", 11, kortti, false);
     kesto_->setObjectName("Kesto");
     määrä_ = Teksti("", 13, kortti);
+    määrä_->setObjectName("määrä");
     määrä_->setAlignment(Qt::AlignCenter);
-    miinus_ = new QPushButton("-", kortti);
-    plus_ = new QPushButton("+", kortti);
-    tilaa_ = new QPushButton("Rakenna", kortti);
+    miinus_ = new QPushButton(kortti);
+    plus_ = new QPushButton(kortti);
+    tilaa_ = new QPushButton(kortti);
     const std::array<std::pair<QPushButton*, const char*>, 3> napit{
         std::pair{miinus_, "määrämiinus"}, std::pair{plus_, "määräplus"}, std::pair{tilaa_, "Command2"}};
     for (auto [nappi, nimi] : napit) {
@@ -86,6 +107,9 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     navettaz_ = Teksti("", 11, koot);
     siiloz_ = Teksti("", 11, koot);
     varastoz_ = Teksti("", 11, koot);
+    navettaz_->setObjectName("navettaz");
+    siiloz_->setObjectName("siiloz");
+    varastoz_->setObjectName("varastoz");
     auto* k = new QGridLayout(koot);
     k->addWidget(Teksti("Navetta :", 11, koot, false), 0, 0);
     k->addWidget(navettaz_, 0, 1);
@@ -105,18 +129,20 @@ QWidget* Rakennukset::Työmaat() {
     QFrame* työmaat = Paneeli(this, "tyomaat");
     auto* g = new QGridLayout(työmaat);
     g->setSpacing(4);
-    // The three stores first, then the thirteen buildings.
+    // Picture1 to Picture16: the three stores first, then the thirteen buildings.
     for (std::size_t paikka = 0; paikka < TYÖMAITA; ++paikka) {
-        const std::size_t kohde = paikka < TILOJA ? RAKENNUKSIA + paikka : paikka - TILOJA;
+        const std::size_t kohde = TYÖMAIDEN_JÄRJESTYS[paikka];
+        const Ohjain kuva = Lue(peli_, "Picture(" + std::to_string(paikka + 1) + ")");
         kuvat_[kohde] = new QLabel(työmaat);
-        kuvat_[kohde]->setPixmap(KuvaJosOn(peli_, Kuvatiedosto(kohde)).scaled(96, 72, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[kohde]->setObjectName(QString("Picture%1").arg(paikka + 1));
+        kuvat_[kohde]->setPixmap(KuvaJosOn(peli_, Kuvatiedosto(peli_, kohde)).scaled(96, 72, Qt::KeepAspectRatio, Qt::SmoothTransformation));
         kuvat_[kohde]->setAlignment(Qt::AlignCenter);
         kuvat_[kohde]->setCursor(Qt::PointingHandCursor);
-        const KatalogiRivi& rivi = RAKENNUSKATALOGI[kohde];
-        kuvat_[kohde]->setToolTip(Sv(rivi.vihjeOtsikko) + (rivi.vihje.empty() ? QString() : "\n" + Sv(rivi.vihje)));
+        kuvat_[kohde]->setToolTip(Q(kuva.vihje));
         kuvat_[kohde]->setProperty("kohde", static_cast<int>(kohde));
         kuvat_[kohde]->installEventFilter(this);
         päivät_[kohde] = Teksti("", 9, työmaat);
+        päivät_[kohde]->setObjectName(Q(PäiväLabel(kohde)));
         päivät_[kohde]->setAlignment(Qt::AlignCenter);
         päivät_[kohde]->setProperty("kohde", static_cast<int>(kohde));
         päivät_[kohde]->installEventFilter(this);
@@ -130,31 +156,29 @@ QWidget* Rakennukset::Työmaat() {
 void Rakennukset::Avaa() { AvaaRakennukset(peli_); }
 
 void Rakennukset::Päivitä() {
-    const RakennusRuutuTila& t = peli_.rakennusruutu;
     for (std::size_t kohde = 0; kohde < TYÖMAITA; ++kohde) {
-        päivät_[kohde]->setText(QString::fromStdString(t.päivät[kohde]));
-        päivät_[kohde]->setVisible(t.päivätNäkyvät[kohde]);
-        päivät_[kohde]->setStyleSheet(t.päivätPunaisella[kohde] ? "color: rgb(200,0,0); font-weight: bold;"
-                                                                 : "color: #24160a; font-weight: bold;");
+        const Ohjain päivät = Lue(peli_, PäiväLabel(kohde));
+        Näytä(päivät_[kohde], päivät);
+        const std::uint32_t väri = päivät.väri.value_or(MUSTA);
+        päivät_[kohde]->setStyleSheet(QString("color: rgb(%1,%2,%3); font-weight: bold;")
+                                          .arg(väri & 0xFF).arg((väri >> 8) & 0xFF).arg((väri >> 16) & 0xFF));
     }
-    navettaz_->setText(QString::fromStdString(t.navettaz));
-    siiloz_->setText(QString::fromStdString(t.siiloz));
-    varastoz_->setText(QString::fromStdString(t.varastoz));
-    const bool valittu = t.kohde >= 0;
-    nimi_->setText(valittu ? Sv(RAKENNUSKATALOGI[t.kohde].avain) : QString("Valitse rakennus"));
-    korttikuva_->setPixmap(valittu ? KuvaJosOn(peli_, Kuvatiedosto(t.kohde)).scaled(128, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-                                   : QPixmap());
-    taso_->setText(QString::fromStdString(t.taso));
-    info_->setText(QString::fromStdString(t.info));
-    hinta_->setText(valittu ? QString::fromStdString(Str(t.hinta)) : QString());
-    kesto_->setText(valittu ? QString::fromStdString(Str(t.Kesto)) + " päivää" : QString());
-    määrä_->setText(valittu ? QString::number(t.määrä) : QString());
-    plus_->setEnabled(t.askeleetKäytössä);
-    miinus_->setEnabled(t.askeleetKäytössä);
-    tilaa_->setText(QString::fromStdString(t.Command2));
-    tilaa_->setEnabled(t.Command2Käytössä);
-    ohje_->setVisible(peli_.m.OhjeetPäällä);
-    ohje_->setText(QString::fromStdString(t.ohje));
+    Näytä(navettaz_, Lue(peli_, "navettaz"));
+    Näytä(siiloz_, Lue(peli_, "siiloz"));
+    Näytä(varastoz_, Lue(peli_, "varastoz"));
+    const RakennusRuutuTila& t = peli_.rakennusruutu;
+    korttikuva_->setPixmap(t.kohde >= 0 ? KuvaJosOn(peli_, Kuvatiedosto(peli_, t.kohde)).scaled(128, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                                        : QPixmap());
+    Näytä(nimi_, Lue(peli_, "Kohde"));
+    Näytä(taso_, Lue(peli_, "taso"));
+    Näytä(info_, Lue(peli_, "info"));
+    Näytä(hinta_, Lue(peli_, "hintanäky"));
+    Näytä(kesto_, Lue(peli_, "Kesto"));
+    Näytä(määrä_, Lue(peli_, "määrä"));
+    Näytä(plus_, Lue(peli_, "määräplus"));
+    Näytä(miinus_, Lue(peli_, "määrämiinus"));
+    Näytä(tilaa_, Lue(peli_, "Command2"));
+    Näytä(ohje_, Lue(peli_, "Ohje"));
 }
 
 bool Rakennukset::eventFilter(QObject* kohde, QEvent* tapahtuma) {
@@ -173,10 +197,7 @@ void Rakennukset::keyPressEvent(QKeyEvent* tapahtuma) {
 }
 
 void Rakennukset::Sulje() {
-    ikkuna_.Toimi([this] {
-        SoitaÄäni(peli_, "klik");
-        SuljeRakennukset(peli_);
-    });
+    ikkuna_.Toimi([this] { SuljeRakennukset(peli_); });
     ikkuna_.PalaaPääruutuun();
 }
 

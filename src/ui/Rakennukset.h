@@ -7,7 +7,9 @@
 // Qt
 #include <QLabel>
 #include <QPushButton>
+// std
 #include <array>
+#include <string>
 
 namespace tanhua::ui {
 
@@ -27,6 +29,8 @@ public:
     QPushButton* Miinus() const { return miinus_; }
     QPushButton* Command1() const { return sulje_; }
     QLabel* hintanäky() const { return hinta_; }
+    // A target's day label by its name on the screen ("RakenneSahaz").
+    static std::string PäiväLabel(std::size_t kohde);
 
 protected:
     bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;

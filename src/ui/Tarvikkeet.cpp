@@ -4,12 +4,32 @@
 // own
 #include "Pääikkuna.h"
 #include "buildings/tarvikkeet.h"
+#include "core/ohjaimet.h"
 // Qt
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+// std
+#include <algorithm>
 
 namespace tanhua::ui {
+
+namespace {
+// A control of this screen as the game reads it.
+Ohjain Lue(const Peli& peli, const char* nimi) {
+    return LueOhjain(peli, std::string("Tarvikkeet.") + nimi).value_or(Piilossa());
+}
+
+void Näytä(QLabel* label, const Ohjain& o) {
+    label->setText(Q(o.arvo));
+    label->setVisible(o.näkyvissä);
+}
+void Näytä(QPushButton* nappi, const Ohjain& o) {
+    nappi->setText(Q(o.arvo));
+    nappi->setVisible(o.näkyvissä);
+    nappi->setEnabled(o.käytössä);
+}
+}  // namespace
 
 Tarvikkeet::Tarvikkeet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     : Tausta(vanhempi), peli_(peli), ikkuna_(ikkuna) {
@@ -17,16 +37,16 @@ Tarvikkeet::Tarvikkeet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     AsetaKuva(KuvaJosOn(peli_, "Kuvat/Kylväminen.jpg"));
     aihe_ = AiheOtsikko("Tarvikkeet", this);
     ohje_ = OhjeRivi(this);
-    sulje_ = new QPushButton("Takaisin", this);
+    sulje_ = new QPushButton(this);
     sulje_->setObjectName("Command1");
     Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
     sulje_->setMinimumSize(140, 40);
     connect(sulje_, &QPushButton::clicked, this, &Tarvikkeet::Sulje);
 
     QFrame* vasen = Paneeli(this, "kauppa");
-    yleiset_ = new QPushButton("Tarvikkeet", vasen);
-    lisälaitteet_ = new QPushButton("Lisälaitteet", vasen);
-    omat_ = new QPushButton("Ostetut laitteet", vasen);
+    yleiset_ = new QPushButton(vasen);
+    lisälaitteet_ = new QPushButton(vasen);
+    omat_ = new QPushButton(vasen);
     const std::array<std::pair<QPushButton*, const char*>, 3> napit{
         std::pair{yleiset_, "Command4"}, std::pair{lisälaitteet_, "Command3"}, std::pair{omat_, "Command6"}};
     for (auto [nappi, nimi] : napit) {
@@ -39,6 +59,7 @@ Tarvikkeet::Tarvikkeet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     connect(lisälaitteet_, &QPushButton::clicked, this, toimi(NäytäLisälaitteet));
     connect(omat_, &QPushButton::clicked, this, toimi(NäytäOmat));
     otsikko_ = Teksti("", 15, vasen);
+    otsikko_->setObjectName("otsikko");
     lista_ = new QListWidget(vasen);
     lista_->setObjectName("Lista");
     lista_->setStyleSheet("QListWidget { font-size: 12pt; background: transparent; border: none; }");
@@ -59,7 +80,9 @@ Tarvikkeet::Tarvikkeet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
 
     QFrame* kortti = Paneeli(this, "tarvike");
     nimi_ = Teksti("", 15, kortti);
+    nimi_->setObjectName("nimi");
     info_ = Teksti("", 10, kortti, false);
+    info_->setObjectName("info");
     info_->setWordWrap(true);
     info_->setMinimumHeight(80);
     hinta_ = Teksti("", 13, kortti);
@@ -90,22 +113,25 @@ void Tarvikkeet::Avaa() { AvaaTarvikkeet(peli_); }
 
 void Tarvikkeet::Päivitä() {
     const TarvikeRuutuTila& t = peli_.tarvikeruutu;
-    otsikko_->setText(QString::fromStdString(t.otsikko));
+    Näytä(yleiset_, Lue(peli_, "Command4"));
+    Näytä(lisälaitteet_, Lue(peli_, "Command3"));
+    Näytä(omat_, Lue(peli_, "Command6"));
+    Näytä(otsikko_, Lue(peli_, "otsikko"));
     {
         const QSignalBlocker esto(lista_);
+        const Ohjain lista = Lue(peli_, "Lista");
         lista_->clear();
-        int valittuRivi = -1;
-        for (std::size_t i = 0; i < t.Lista.size(); ++i) {
-            lista_->addItem(Sv(TarvikkeenNimi(t.Lista[i])));
-            if (t.Lista[i] == t.valittu) valittuRivi = static_cast<int>(i);
-        }
-        lista_->setCurrentRow(valittuRivi);
+        if (!t.Lista.empty()) lista_->addItems(Q(lista.arvo).split('|'));
+        const auto valittu = std::find(t.Lista.begin(), t.Lista.end(), t.valittu);
+        lista_->setCurrentRow(valittu == t.Lista.end() ? -1 : static_cast<int>(valittu - t.Lista.begin()));
+        lista_->setEnabled(lista.käytössä);
     }
-    nimi_->setText(QString::fromStdString(t.nimi));
-    info_->setText(QString::fromStdString(t.info));
-    hinta_->setText(QString::fromStdString(t.hinta));
-    toiminto_->setText(QString::fromStdString(t.Command5));
+    Näytä(nimi_, Lue(peli_, "nimi"));
+    Näytä(info_, Lue(peli_, "info"));
+    Näytä(hinta_, Lue(peli_, "hinta"));
+    Näytä(toiminto_, Lue(peli_, "Command5"));
     toiminto_->setToolTip(QString::fromStdString(t.Command5Ohje));
+    Näytä(sulje_, Lue(peli_, "Command1"));
     ohje_->setVisible(false);
 }
 

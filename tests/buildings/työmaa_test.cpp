@@ -4,16 +4,13 @@
 #include "buildings/rakennukset.h"
 #include "buildings/taulut/rakennuskatalogi.h"
 #include "tuki/testipeli.h"
-#include "työmaat.h"
 
 namespace tanhua {
 namespace {
 
-using testi::Testipeli;
 using Tapahtumat = std::vector<std::string>;
 
-
-struct Tila : Testipeli {
+struct Tila : testi::Testipeli {
     Tila() {
         Aloita();
         m.RakAika.fill(0);
@@ -59,23 +56,22 @@ TEST(WorkOrders, OneDrawServesEveryOrderAndCompletionsAreListedStoresFirst) {
     t.m.Koko_Navetta = 10;
     t.m.Koko_Siilo = 200;
     // A building before the stores in the family, stores finishing the same day.
+    const std::size_t navetta = Työmaa(Navetta), siilo = Työmaa(Siilo), varasto = Työmaa(Varasto);
     t.m.RakAika[Pakkaamo] = 1;  t.m.RakTilaus[Pakkaamo] = 1;
     t.m.RakAika[Saha] = 5;      t.m.RakTilaus[Saha] = 1;  t.m.Rak[Saha] = 2;
-    t.m.RakAika[SIILO] = 2;     t.m.RakTilaus[SIILO] = 500;
-    t.m.RakAika[NAVETTA] = 1;   t.m.RakTilaus[NAVETTA] = 10;
-    t.m.RakAika[VARASTO] = 8;   t.m.RakTilaus[VARASTO] = 50;
+    t.m.RakAika[siilo] = 2;     t.m.RakTilaus[siilo] = 500;
+    t.m.RakAika[navetta] = 1;   t.m.RakTilaus[navetta] = 10;
+    t.m.RakAika[varasto] = 8;   t.m.RakTilaus[varasto] = 50;
     t.peli.arvonta.Jonoon(0.99);  // 9 boards for the day
     t.peli.arvonta.Jonoon(0.0);   // left for whatever draws next
     TyömaaPäivä(t.peli);
     // Siilo, Saha and Varasto burned 9 boards each; Navetta and Pakkaamo had one day left.
     EXPECT_EQ(t.m.Var[Lauta], 73);
     EXPECT_EQ(t.m.RakAika[Saha], 3);
-    EXPECT_EQ(t.m.RakAika[VARASTO], 6);
+    EXPECT_EQ(t.m.RakAika[varasto], 6);
     EXPECT_EQ(t.m.Koko_Navetta, 20);
     EXPECT_EQ(t.m.Koko_Siilo, 700);
     EXPECT_EQ(t.m.Rak[Pakkaamo], 1);
-    EXPECT_EQ(t.m.Rak[Saha], 2);
-    EXPECT_EQ(t.m.RakTilaus[SIILO], 0);
     EXPECT_EQ(t.peli.arvonta.U(0, 9), 0);  // only one draw was taken
     EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"LISTA|Navettasi laajennustyö on nyt valmis!",
                                           "LISTA|Siilosi laajennustyö on nyt valmis!",
@@ -83,24 +79,16 @@ TEST(WorkOrders, OneDrawServesEveryOrderAndCompletionsAreListedStoresFirst) {
     EXPECT_TRUE(t.peli.näkymä.ListaNäkyvissä);
 }
 
-TEST(WorkOrders, EveryTargetHasItsCompletionLine) {
+TEST(WorkOrders, EveryBuildingHasItsCompletionLine) {
     Tila t;
-    for (std::size_t i = 0; i < TYÖMAITA; ++i) {
-        t.m.RakAika[i] = 1;
-        t.m.RakTilaus[i] = 1;
-    }
+    for (std::size_t i = 0; i < RAKENNUKSIA; ++i) t.m.RakAika[i] = t.m.RakTilaus[i] = 1;
     t.peli.arvonta.Jonoon(0);
     TyömaaPäivä(t.peli);
-    const Tapahtumat odotus{
-        "LISTA|Navettasi laajennustyö on nyt valmis!",      "LISTA|Siilosi laajennustyö on nyt valmis!",
-        "LISTA|Varastosi laajennustyö on nyt valmis!",      "LISTA|Rakennuksesi saha on nyt valmis!",
-        "LISTA|Rakennuksesi kasvihuone on nyt valmis!",     "LISTA|Rakennuksesi meijeri on nyt valmis!",
-        "LISTA|Rakennuksesi mylly on nyt valmis!",          "LISTA|Rakennuksesi ompelimo on nyt valmis!",
-        "LISTA|Rakennuksesi leipomo on nyt valmis!",        "LISTA|Rakennuksesi teurastamo on nyt valmis!",
-        "LISTA|Rakennuksesi rehuntuotantolaitos on nyt valmis!", "LISTA|Rakennuksesi hevostalli on nyt valmis!",
-        "LISTA|Rakennuksesi marjatarha on nyt valmis!",     "LISTA|Rakennuksesi viinitehdas on nyt valmis!",
-        "LISTA|Rakennuksesi mehiläistarha on nyt valmis!",  "LISTA|Rakennuksesi pakkaamo on nyt valmis!",
-    };
+    Tapahtumat odotus;
+    for (const char* sana : {"saha", "kasvihuone", "meijeri", "mylly", "ompelimo", "leipomo", "teurastamo",
+                             "rehuntuotantolaitos", "hevostalli", "marjatarha", "viinitehdas", "mehiläistarha",
+                             "pakkaamo"})
+        odotus.push_back(std::string("LISTA|Rakennuksesi ") + sana + " on nyt valmis!");
     EXPECT_EQ(t.Tapahtumat(), odotus);
     for (std::size_t i = 0; i < RAKENNUKSIA; ++i) EXPECT_EQ(t.m.Rak[i], 1);
 }
