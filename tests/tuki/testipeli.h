@@ -25,7 +25,8 @@ struct Testipeli {
     Testipeli();
     // Starts a farm as the start screen does.
     void Aloita(const std::string& nimi = "Testi", int taso = 1, int tavoite = 0, bool tähdet = true);
-    // The recorded events since the last call, emptied.
+    // The recorded events since the last call, emptied; the click that follows an answered box
+    // is left out.
     std::vector<std::string> Tapahtumat();
     // Writes a file into the data folder.
     void KirjoitaData(const std::string& nimi, const std::string& sisältö);
