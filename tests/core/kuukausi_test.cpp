@@ -151,14 +151,11 @@ TEST(MonthEnd, WagesAndTheSubsidy) {
         float raha;
     };
     const Tapaus tapaukset[] = {
-        {"an accountant, subsidy up to the wage", 1, 6, [](Muuttujat& m) { m.Työ[Kirjanpitäjä] = 1; },
-         {"180|5|Palkat : - 3000"}, 10000},
         {"a cleaner on a good month", 1, 6,
          [](Muuttujat& m) { m.Työ[Siivooja] = 1; m.Liikevaihto = 25000; m.YlityöPalkat = 100; },
          {"180|5|Palkat : - 3000", "180|5|Ylityö korvaukset : - 100", "180|5|Nettopalkat : - 2600"}, 7400},
         {"the hard difficulty halves it", 2, 6, [](Muuttujat& m) { m.Työ[Siivooja] = 1; },
          {"180|5|Palkat : - 3000", "180|5|Nettopalkat : - 1250"}, 8750},
-        {"gardeners on leave in winter", 1, 12, [](Muuttujat& m) { m.Työ[Puutarhuri] = 2; }, {}, 10000},
         {"the tanner draws no subsidy", 1, 6, [](Muuttujat& m) { m.Työ[Nahkuri] = 1; m.Palkka[Nahkuri] = 100; },
          {"180|5|Nettopalkat : - 100"}, 9900},
     };
