@@ -72,23 +72,6 @@ TEST(FailureReporter, AVersionDifferenceExplainsItselfWhenOpeningASave) {
     }
 }
 
-TEST(FailureReporter, GuardedStepsGoOnOrStopByTheAnswer) {
-    struct Tapaus { const char* vastaus; std::vector<int> ajetut; bool loppuun; };
-    for (const Tapaus& c : {Tapaus{"Kyllä", {1, 3}, true}, {"Ei", {1}, false}}) {
-        Testipeli t;
-        t.kanavat.vastaukset.push_back(c.vastaus);
-        std::vector<int> ajetut;
-        const bool loppuun = Vartioitu(t.peli, "Paikka.", {
-            [&] { ajetut.push_back(1); },
-            [&] { Integer i = 0; Aseta(i, 1e6); ajetut.push_back(2); },
-            [&] { ajetut.push_back(3); },
-        });
-        EXPECT_EQ(ajetut, c.ajetut) << c.vastaus;
-        EXPECT_EQ(loppuun, c.loppuun);
-        EXPECT_EQ(t.Tapahtumat().front(), "VIKA|Paikka.|6|" + std::string(c.vastaus));
-    }
-}
-
 TEST(FailureReporter, ASoundFailureShowsItsOwnBoxAndNeverTheReporter) {
     Testipeli t;
     t.peli.asetukset.Äänitehosteet = true;
