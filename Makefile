@@ -1,6 +1,14 @@
 # The two commands of a newcomer: `make run` and `make test`.
 BUILD ?= build
 JOBS ?= 2
+# The checking builds of `make test`: the library, the runner and their tests under the address and
+# undefined-behaviour sanitizers (g++), and the fuzz targets (clang's libFuzzer). Both read the
+# program folder the plain build generated.
+SAN_BUILD ?= build-san
+FUZZ_BUILD ?= build-fuzz
+FUZZ_CXX ?= clang++-16
+FUZZ_SECONDS ?= 5
+PROGRAM_DIR = $(abspath $(BUILD))/game
 
 .PHONY: all deps configure build run demo screenshots benchmark test contact-sheet clean
 
@@ -29,9 +37,17 @@ benchmark: build
 
 test: build
 	@cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
+	@cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTANHUA_SANITIZE=ON -DTANHUA_WINDOW=OFF \
+		-DTANHUA_ASSETS=OFF -DTANHUA_PROGRAM_DIR=$(PROGRAM_DIR) > /dev/null
+	@cmake --build $(SAN_BUILD) -j$(JOBS)
+	@cd $(SAN_BUILD) && ctest --output-on-failure -j$(JOBS)
+	@cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DTANHUA_FUZZ=ON \
+		-DTANHUA_FUZZ_SECONDS=$(FUZZ_SECONDS) -DTANHUA_PROGRAM_DIR=$(PROGRAM_DIR) > /dev/null
+	@cmake --build $(FUZZ_BUILD) -j$(JOBS)
+	@cd $(FUZZ_BUILD) && ctest --output-on-failure -j$(JOBS)
 
 contact-sheet: build
 	@cmake --build $(BUILD) --target tanhua_contact_sheet
 
 clean:
-	@rm -rf $(BUILD)
+	@rm -rf $(BUILD) $(SAN_BUILD) $(FUZZ_BUILD)

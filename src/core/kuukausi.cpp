@@ -86,12 +86,14 @@ void TulostaRaportti(Peli& peli, Kuukausiluvut& k) {
     }
     if (m.Rak[Pakkaamo] > 0) {
         const double x = m.PakkaamoTulot - static_cast<double>(m.Palkka[Varastotyöntekijä]) * m.Työ[Varastotyöntekijä];
-        r.Väri(x <= 0 ? PUNAINEN : MUSTA);
+        // The packing plant's and the contracts' lines only ever turn the text red; a colour
+        // stays until it is changed, so a good line after a red one is red too.
+        if (x <= 0) r.Väri(PUNAINEN);
         r.Rivi("Pakkaamon tuotto : " + std::string(x > 0 ? "+" : "") + Suoraan(Str(Round(x, 2))));
     }
     if (m.Sopimustulot != 0) {
-        r.Väri(m.Sopimustulot < 0 ? PUNAINEN : MUSTA);
         if (m.Sopimustulot < 0) {
+            r.Väri(PUNAINEN);
             r.Rivi("");
             r.Rivi("Sopimukset : " + Str(m.Sopimustulot));
         } else {

@@ -43,21 +43,24 @@ QPixmap KuvaJosOn(const Peli& peli, const std::string& polku) {
 }
 
 namespace {
-// Grows the font of a button while the pointer is over it.
+// Grows the font of a button while the pointer is over it. The filter keeps its own button and
+// touches it only on the pointer's entering and leaving: other events, such as the focus-out that
+// comes while the button is being destroyed, reach it when the object is no longer a button.
 class Hover : public QObject {
 public:
-    Hover(QPushButton* nappi, int perus, int hover) : QObject(nappi), perus_(perus), hover_(hover) {}
+    Hover(QPushButton* nappi, int perus, int hover) : QObject(nappi), nappi_(nappi), perus_(perus), hover_(hover) {}
     bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
-        auto* nappi = static_cast<QPushButton*>(kohde);
-        if (tapahtuma->type() == QEvent::Enter || tapahtuma->type() == QEvent::Leave) {
-            QFont f = nappi->font();
-            f.setPointSize(tapahtuma->type() == QEvent::Enter ? hover_ : perus_);
-            nappi->setFont(f);
+        const QEvent::Type tyyppi = tapahtuma->type();
+        if (kohde == nappi_ && (tyyppi == QEvent::Enter || tyyppi == QEvent::Leave)) {
+            QFont f = nappi_->font();
+            f.setPointSize(tyyppi == QEvent::Enter ? hover_ : perus_);
+            nappi_->setFont(f);
         }
         return false;
     }
 
 private:
+    QPushButton* nappi_;
     int perus_, hover_;
 };
 }  // namespace

@@ -38,17 +38,5 @@ TEST(Draws, WholeNumberDrawsCoverTheirEnds) {
     }
 }
 
-TEST(Draws, TheTraceNamesEachDraw) {
-    Arvonta a;
-    int määrä = 0;
-    a.seuranta = [&](double, const std::source_location& paikka) {
-        ++määrä;
-        EXPECT_NE(std::string(paikka.file_name()).find("arvonta_test"), std::string::npos);
-    };
-    a.r();
-    a.D(5);
-    EXPECT_EQ(määrä, 2);
-}
-
 }  // namespace
 }  // namespace tanhua

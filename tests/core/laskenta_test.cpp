@@ -23,7 +23,13 @@ TEST(Arithmetic, StoringRoundsHalfToEven) {
                             {2.4999, 2}, {2.5001, 3}, {-0.5, 0}, {32766.5, 32766}}) {
         EXPECT_EQ(CInt(t.x), t.odotettu) << t.x;
         EXPECT_EQ(CLng(t.x), t.odotettu) << t.x;
+        Long l = 0;
+        Aseta(l, t.x);
+        EXPECT_EQ(l, t.odotettu) << "stored by Aseta " << t.x;
     }
+    Single s = 0;
+    Aseta(s, 3.5);
+    EXPECT_EQ(s, 3.5f) << "a Single keeps its fraction";
     EXPECT_EQ(CByte(254.5), 254);
     EXPECT_EQ(CByte(-0.5), 0);
 }
@@ -47,17 +53,6 @@ TEST(Arithmetic, ValuesOutsideTheirWidthAreFailureSix) {
         {"Lisää by width", [] { Byte b = 250; Lisää(b, 6); }, 6},
     };
     for (const Tapaus& t : tapaukset) EXPECT_EQ(VikaNumero(t.f), t.vika) << t.nimi;
-}
-
-TEST(Arithmetic, SingleKeepsFractionsAndWholeWidthsDoNot) {
-    Single s = 0;
-    Aseta(s, 3.5);
-    EXPECT_EQ(s, 3.5f);
-    Integer i = 0;
-    Aseta(i, 3.5);
-    EXPECT_EQ(i, 4);
-    Aseta(i, 4.5);
-    EXPECT_EQ(i, 4);
 }
 
 TEST(Arithmetic, IntFixIntegerDivisionAndMod) {

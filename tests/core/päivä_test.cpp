@@ -9,18 +9,36 @@ namespace {
 
 using testi::Testipeli;
 
-TEST(Calendar, WeekendsAreEightDaysAMonth) {
-    int viikonloppuja = 0;
-    for (int p = 1; p <= 31; ++p) viikonloppuja += OnViikonloppu(p);
-    EXPECT_EQ(viikonloppuja, 8);
-    for (int p : {6, 7, 13, 14, 20, 21, 28, 29}) EXPECT_TRUE(OnViikonloppu(p)) << p;
-    for (int p : {5, 8, 27, 30, 31, 1}) EXPECT_FALSE(OnViikonloppu(p)) << p;
+TEST(DayStep, TheAccountantSellsOnTheSaleDaysOfTheSetting) {
+    struct Tapaus { int rulla; std::vector<int> päivät; };
+    for (const Tapaus& c : {Tapaus{1, {5, 12, 19, 27}}, {0, {29}}}) {
+        Testipeli t;
+        t.Aloita();
+        t.m.Työ[Kirjanpitäjä] = 1;
+        t.m.Tuotteet.rulla = static_cast<Integer>(c.rulla);
+        t.m.Tuotteet.Myy[Lanta] = 1;
+        std::vector<int> myyntipäivät;
+        for (int päivä = 2; päivä <= 30; ++päivä) {
+            t.m.Var[Lanta] = 100;
+            SeuraavaPäivä(t.peli);
+            if (t.m.Var[Lanta] < 100) myyntipäivät.push_back(päivä);
+        }
+        EXPECT_EQ(myyntipäivät, c.päivät) << "rulla " << c.rulla;
+    }
 }
 
-TEST(Calendar, SeasonsFollowTheMonth) {
-    const char* odotettu[] = {"Talvi", "Talvi", "Kevät", "Kevät", "Kesä", "Kesä", "Kesä", "Kesä",
-                              "Syksy", "Syksy", "Talvi", "Talvi"};
-    for (int k = 1; k <= 12; ++k) EXPECT_EQ(VuodenaikaKuukaudesta(k), odotettu[k - 1]) << k;
+TEST(DayStep, TheHerdGivesItsOutputBeforeItEats) {
+    // An empty silo with every draw 0: both cows give 3 litres, then one of them starves.
+    Testipeli t;
+    t.Aloita();
+    t.m.Päivä = 30;
+    t.m.Raha = 0;
+    t.m.Var[Rehu] = 0;
+    t.m.El[Nauta][Naaras] = 2;
+    for (int i = 0; i < 500; ++i) t.peli.arvonta.Jonoon(0.0);
+    SeuraavaPäivä(t.peli);
+    EXPECT_EQ(t.m.Var[Maito], 6);
+    EXPECT_EQ(t.m.El[Nauta][Naaras], 1);
 }
 
 TEST(DayStep, EachPressMovesTheDayAndSetsTheWeekendFlag) {

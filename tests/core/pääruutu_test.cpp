@@ -63,17 +63,3 @@ TEST(MainScreen, GaugesAndTheirGuards) {
 
 }  // namespace
 }  // namespace tanhua
-
-namespace tanhua {
-namespace {
-
-TEST(MainScreen, WeatherPictureByCloudCodeAndTemperature) {
-    struct Tapaus { int pilvisyys, lämpötila, kuva; };
-    for (const Tapaus& c : {Tapaus{0, 20, -1}, {1, 20, 0}, {4, -10, 3}, {5, 0, 4}, {6, 0, 5}, {5, -1, 6},
-                            {6, -1, 7}, {7, 5, -1}}) {
-        EXPECT_EQ(SääKuvaPilvisyydestä(c.pilvisyys, c.lämpötila), c.kuva) << c.pilvisyys << " " << c.lämpötila;
-    }
-}
-
-}  // namespace
-}  // namespace tanhua

@@ -93,15 +93,5 @@ TEST(Weather, AnUnknownSeasonIsToldAndLeavesTheTemperature) {
     EXPECT_EQ(t.Tapahtumat(), std::vector<std::string>{"LAATIKKO|Tanhua havaitsi virheen vuodenajan asetemuutoksessa!"});
 }
 
-TEST(Weather, ANewFarmHasWeatherOnItsFirstDay) {
-    testi::Testipeli t;
-    t.Aloita();
-    EXPECT_GE(t.m.Pilvisyys, 1);
-    EXPECT_LE(t.m.Pilvisyys, 2);
-    EXPECT_GE(t.m.Lämpötila, 18);
-    EXPECT_LE(t.m.Lämpötila, 22);
-    EXPECT_GE(t.peli.näkymä.SääKuva, 0);
-}
-
 }  // namespace
 }  // namespace tanhua
