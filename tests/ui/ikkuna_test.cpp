@@ -6,7 +6,11 @@
 #include <QTest>
 #include <QTimer>
 
+#include <sstream>
+
 #include "buildings/taulut/rakennuskatalogi.h"
+#include "core/kentät.h"
+#include "sim/skripti.h"
 #include "storage/tiedostot.h"
 #include "tuki/testipeli.h"
 #include "ui/Eläimet.h"
@@ -301,6 +305,44 @@ TEST(Window, EscAsksBeforeQuitting) {
         EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Oletko varma että lopetat pelin suoraan ilman eläkkeelle siirtymistä?");
         EXPECT_EQ(i.lopetettu, lopetetaan);
     }
+}
+
+// Every value of the record and the settings, and the next draw, as one text to compare.
+std::string Tila(Peli& peli) {
+    std::string t;
+    for (const Kenttä& k : Kentät(peli)) t += k.nimi + "=" + KentänArvo(k) + "\n";
+    return t + "seuraava arvonta=" + std::to_string(peli.arvonta.r()) + "\n";
+}
+
+TEST(Window, TheWindowAndTheRunnerPlayTheSameFarmFromTheSameDraws) {
+    // With the sounds on every click takes a draw: opening and leaving a screen, a box's answer.
+    testi::Väliaikainen kansio;
+    Ajuri ajuri(Kansiot{TANHUA_PROGRAM_DIR, kansio.polku() / "Data"});
+    std::istringstream skripti(
+        "new Matti Vapaa 1 on\nset Äänitehosteet True\ncall Eläimet.Avaa\ncall Eläimet.ValitseEläin Kana\n"
+        "call Eläimet.Osta Kana 1\ncall Eläimet.Takaisin\nanswer Ei\ncall Tanhua.Lopetus\n"
+        "answer Kyllä\ncall Tanhua.NäytäTähti 0\ncall Pankki.Avaa\ncall Pankki.Sulje\ndays 3\n");
+    std::ostringstream ulos, virheet;
+    ASSERT_EQ(ajuri.Aja(skripti, ulos, virheet), 0) << virheet.str();
+
+    Ikkuna i;
+    i.peli.asetukset.Äänitehosteet = true;
+    i.Aloita("Matti");
+    QTest::mouseClick(i.w->tanhua()->Command1(), Qt::LeftButton);
+    Eläimet* e = i.w->eläimet();
+    QTest::mouseClick(e->Kuva(6), Qt::LeftButton);  // Kana
+    QTest::mouseClick(e->Osta(), Qt::LeftButton);
+    QTest::mouseClick(e->Takaisin(), Qt::LeftButton);
+    i.VastaaNäppäimellä(Qt::Key_E);
+    QTest::mouseClick(i.w->tanhua()->Lopetus(), Qt::LeftButton);
+    i.VastaaNäppäimellä(Qt::Key_K);
+    QTest::mouseClick(i.w->tanhua()->findChild<QLabel*>("TP_Kuva0"), Qt::LeftButton);
+    QTest::mouseClick(i.w->tanhua()->Command6(), Qt::LeftButton);
+    QTest::mouseClick(i.w->pankki()->Command1(), Qt::LeftButton);
+    for (int päivä = 0; päivä < 3; ++päivä) QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
+
+    EXPECT_EQ(i.peli.m.El[Kana][Naaras], 1);
+    EXPECT_EQ(Tila(i.peli), Tila(ajuri.peli()));
 }
 
 }  // namespace
