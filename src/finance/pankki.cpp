@@ -165,7 +165,6 @@ void AvaaPankki(Peli& peli) {
     // The bank opens with no sheet showing, whatever was left open at the last visit.
     r.Lappu = false;
     r.VakuLappu = false;
-    r.Command8 = true;
     r.auki = true;
     PäivitäLabelit(peli);
 }
