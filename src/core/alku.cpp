@@ -2,6 +2,7 @@
 #include "alku.h"
 
 #include "../animals/eläimet.h"
+#include "../finance/pankki.h"
 #include "../market/markkinat.h"
 #include "../storage/asetukset.h"
 #include "../storage/tallennus.h"
@@ -169,6 +170,7 @@ void UusiTilanneLataus(Peli& peli) {
             a.LatausNäkyvissä = false;
             peli.käynnissä = true;
             EläintenKunto(peli);
+            PäivitäVakuutus(peli);
             Päivitälukemat(peli);
             m.VikaLaskuri = 0;
         },
@@ -190,6 +192,7 @@ bool JatkaTilannetta(Peli& peli) {
         PerusHinnat(peli);
         AsetaVuodenaika(m);
         Keli(peli);
+        PäivitäVakuutus(peli);
         a.LatausNäkyvissä = false;
         peli.käynnissä = true;
         Päivitälukemat(peli);

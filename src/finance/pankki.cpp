@@ -47,6 +47,11 @@ void MyönnäLaina(Peli& peli) {
     Muuttujat& m = peli.m;
     PankkiRuutuTila& r = peli.pankkiruutu;
     const double s = Int(TekstiLuvuksi(r.summa));
+    // A sum of nothing or less would pay the bank and still leave a loan on the books.
+    if (s <= 0) {
+        Kieltäydy(peli, Teksti(pankkiteksti::EiNollaa));
+        return;
+    }
     const Long raja = LainaRaja(m);
     if (s > raja) {
         Kieltäydy(peli, Teksti(pankkiteksti::LiikaaAlku) + Str(raja) + Teksti(pankkiteksti::LiikaaLoppu));
@@ -155,7 +160,12 @@ void LaskeVaku(Peli& peli) {
 }
 
 void AvaaPankki(Peli& peli) {
-    peli.pankkiruutu.auki = true;
+    PankkiRuutuTila& r = peli.pankkiruutu;
+    SoitaÄäni(peli, "klik");
+    // The bank opens with no sheet showing, whatever was left open at the last visit.
+    r.Lappu = false;
+    r.VakuLappu = false;
+    r.auki = true;
     PäivitäLabelit(peli);
 }
 
@@ -174,7 +184,7 @@ void PankkiEsc(Peli& peli) {
     PankkiRuutuTila& r = peli.pankkiruutu;
     if (r.VakuLappu || r.Lappu) {
         r.VakuLappu = false;
-        r.Lappu = false;
+        SuljeLappu(peli);
         return;
     }
     SuljePankki(peli);
@@ -186,8 +196,11 @@ void OtaLainaa(Peli& peli) {
         Kieltäydy(peli, Teksti(pankkiteksti::Velkoja));
         return;
     }
+    // A fresh sheet: no sum typed yet, and the confirm button ready.
     r.otsikko = Teksti(pankkiteksti::OtaLainaa);
     r.teksti = Teksti(pankkiteksti::LainaOhje);
+    r.summa.clear();
+    r.Command8 = true;
     r.aika = 0;
     NäytäMaksuaika(peli);
     r.aikaNäkyvissä = true;
@@ -249,6 +262,7 @@ void TalletaRahaa(Peli& peli) {
         return;
     }
     r.summa = Luku(Int(m.Raha / 2));
+    r.Command8 = true;
     r.otsikko = Teksti(pankkiteksti::TalletaRahaa);
     r.teksti = Teksti(pankkiteksti::TalletusOhje);
     r.aikaNäkyvissä = false;

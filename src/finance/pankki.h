@@ -27,20 +27,22 @@ Long LainaRaja(const Muuttujat& m);
 // The rate a period gives at the farm's difficulty, per mille a month.
 int LainanKorko(const Muuttujat& m, int aika);
 
-// The screen opens (the main screen's Command6): the loan, the deposit and the months free.
+// The screen opens with a click (the main screen's Command6), with no sheet showing: the loan,
+// the deposit and the months free.
 void AvaaPankki(Peli& peli);
 // Command1: the screen closes; a market report still over it goes with it.
 void SuljePankki(Peli& peli);
-// Esc: with a sheet showing, hides both sheets; otherwise closes the screen.
+// Esc: with a sheet showing, hides both sheets (enabling Command8 again); otherwise closes the screen.
 void PankkiEsc(Peli& peli);
 
-void OtaLainaa(Peli& peli);         // Command2: the loan sheet, unless a loan is open
+void OtaLainaa(Peli& peli);         // Command2: a fresh loan sheet, unless a loan is open
 void LyhennäMaksuaikaa(Peli& peli); // Command9: one period shorter, stopping at "6 kk"
 void PidennäMaksuaikaa(Peli& peli); // Command10: one period longer, stopping at "2 vuotta"
 // The text typed into the sheet's sum box.
 void KirjoitaSumma(Peli& peli, const std::string& teksti);
 // Command8: grants the loan or takes the deposit as the sheet's title says. A sum that isn't
-// a number shows the bank's own failure box and leaves the money as it was.
+// a number shows the bank's own failure box and leaves the money as it was; a loan of nothing or
+// less is refused.
 void VahvistaLappu(Peli& peli);
 void SuljeLappu(Peli& peli);        // Command7: hides the sheet, enables Command8 again
 void MaksaLaina(Peli& peli);        // Command3: repays the whole loan

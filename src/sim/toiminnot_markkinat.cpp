@@ -50,7 +50,7 @@ void MarkkinoidenToiminnot(Toimintoluettelo& t) {
     t["EnsimmäinenKurssi"] = Pelkkä(EnsimmäinenKurssi);
     t["AutoMyynti"] = Pelkkä(AutoMyynti);
     t["PäivitäTuotteet"] = Pelkkä(PäivitäTuotteet);
-    t["Pankki.PörssiRaportti"] = Pelkkä(PörssiRaportti);
+    t["Pankki.PörssiRaportti"] = Pelkkä([](Peli& p) { VaadiPainettava(p, "Pankki.Command6"); PörssiRaportti(p); });
 
     t["Tuotteet.Avaa"] = Pelkkä(AvaaTuotteet);
     t["Tuotteet.AvaaTuote"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {

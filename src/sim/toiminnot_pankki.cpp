@@ -1,4 +1,5 @@
 // The runner's operations of the bank screen: the loan and deposit sheet and the insurance sheet.
+// None needs the screen opened first; a press on a sheet needs its sheet showing.
 #include <stdexcept>
 #include <string>
 
@@ -10,37 +11,17 @@ namespace tanhua {
 
 namespace {
 
-void VaadiAuki(const Peli& peli) {
-    if (!peli.pankkiruutu.auki) throw std::runtime_error("the bank is not open: call Pankki.Avaa first");
-    if (!peli.näkymä.PankkiKäytössä) throw std::runtime_error("the market report lies over the bank");
-}
-
-// A button of the open screen.
-Toiminto Auki(void (*f)(Peli&)) {
-    return Toiminto{0, 0, [f](Peli& peli, const std::vector<std::string>&) {
-                        VaadiAuki(peli);
-                        f(peli);
-                    }};
-}
-
-void VaadiLappu(const Peli& peli) {
-    VaadiAuki(peli);
-    if (!peli.pankkiruutu.Lappu)
-        throw std::runtime_error("the sheet is not showing: call Pankki.OtaLainaa or Pankki.Talleta first");
-}
-
-// A button of the loan and deposit sheet.
-Toiminto Lapulla(void (*f)(Peli&)) {
-    return Toiminto{0, 0, [f](Peli& peli, const std::vector<std::string>&) {
-                        VaadiLappu(peli);
+// A button of the bank pressed by its control's name: skipped when the player couldn't click it
+// (its sheet hidden, "Hyväksy" off after a loan, the market report over the bank).
+Toiminto Nappi(const char* ohjain, void (*f)(Peli&)) {
+    return Toiminto{0, 0, [ohjain, f](Peli& peli, const std::vector<std::string>&) {
+                        VaadiPainettava(peli, std::string("Pankki.") + ohjain);
                         f(peli);
                     }};
 }
 
 void Vahvista(Peli& peli) {
-    VaadiLappu(peli);
-    if (!peli.pankkiruutu.Command8)
-        throw std::runtime_error("the confirm button is disabled until the sheet is closed (Pankki.SuljeLappu)");
+    VaadiPainettava(peli, "Pankki.Command8");
     VahvistaLappu(peli);
 }
 
@@ -66,28 +47,35 @@ void PankinToiminnot(Toimintoluettelo& t) {
     t["Pankki.PäivitäVakuutus"] = Pelkkä(PäivitäVakuutus);
     t["Pankki.LaskeVaku"] = Pelkkä(LaskeVaku);
 
-    t["Pankki.Avaa"] = Pelkkä(AvaaPankki);
-    t["Pankki.Sulje"] = Auki(SuljePankki);
-    t["Pankki.Esc"] = Auki(PankkiEsc);
+    t["Pankki.Avaa"] = Pelkkä([](Peli& peli) {
+        VaadiPainettava(peli, "Tanhua.Command6");
+        AvaaPankki(peli);
+    });
+    t["Pankki.Sulje"] = Nappi("Command1", SuljePankki);
+    // Esc is a key, not a button: only the market report over the bank keeps it away.
+    t["Pankki.Esc"] = Pelkkä([](Peli& peli) {
+        if (!peli.näkymä.PankkiKäytössä) Ohita();
+        PankkiEsc(peli);
+    });
 
     // The buttons one by one.
-    t["Pankki.OtaLainaa"] = Auki(OtaLainaa);
-    t["Pankki.AikaAlas"] = Lapulla(LyhennäMaksuaikaa);
-    t["Pankki.AikaYlös"] = Lapulla(PidennäMaksuaikaa);
+    t["Pankki.OtaLainaa"] = Nappi("Command2", OtaLainaa);
+    t["Pankki.AikaAlas"] = Nappi("Command9", LyhennäMaksuaikaa);
+    t["Pankki.AikaYlös"] = Nappi("Command10", PidennäMaksuaikaa);
     t["Pankki.Summa"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                     VaadiLappu(peli);
+                                     VaadiPainettava(peli, "Pankki.summa");
                                      KirjoitaSumma(peli, a[0]);
                                  }};
     t["Pankki.Vahvista"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { Vahvista(peli); }};
-    t["Pankki.SuljeLappu"] = Lapulla(SuljeLappu);
-    t["Pankki.Lyhennä"] = Auki(MaksaLaina);
-    t["Pankki.Nosta"] = Auki(NostaTalletukset);
+    t["Pankki.SuljeLappu"] = Nappi("Command7", SuljeLappu);
+    t["Pankki.Lyhennä"] = Nappi("Command3", MaksaLaina);
+    t["Pankki.Nosta"] = Nappi("Command5", NostaTalletukset);
 
-    // A loan as the player takes it: the sheet, the period stepped up to, the sum typed, confirm.
+    // A loan as the player takes it: a fresh sheet, the period stepped up to, the sum typed, confirm.
     // A refused sheet ends it there.
     t["Pankki.Laina"] = Toiminto{1, 2, [](Peli& peli, const std::vector<std::string>& a) {
-                                     VaadiAuki(peli);
                                      const int aika = a.size() > 1 ? Maksuaika(a[1]) : 0;
+                                     VaadiPainettava(peli, "Pankki.Command2");
                                      OtaLainaa(peli);
                                      if (!peli.pankkiruutu.Lappu) return;
                                      while (peli.pankkiruutu.aika < aika) PidennäMaksuaikaa(peli);
@@ -96,7 +84,7 @@ void PankinToiminnot(Toimintoluettelo& t) {
                                  }};
     // Command4; with a sum, it is typed and confirmed (without, the offered half stands open).
     t["Pankki.Talleta"] = Toiminto{0, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                       VaadiAuki(peli);
+                                       VaadiPainettava(peli, "Pankki.Command4");
                                        TalletaRahaa(peli);
                                        if (a.empty() || !peli.pankkiruutu.Lappu) return;
                                        KirjoitaSumma(peli, a[0]);
@@ -104,26 +92,20 @@ void PankinToiminnot(Toimintoluettelo& t) {
                                    }};
 
     // The insurance sheet.
-    t["Pankki.Vakuutukset"] = Auki(AvaaVakuutukset);
-    t["Pankki.SuljeVakuutukset"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
-                                                VaadiAuki(peli);
-                                                if (!peli.pankkiruutu.VakuLappu)
-                                                    throw std::runtime_error("the insurance sheet is not showing");
-                                                SuljeVakuutukset(peli);
-                                            }};
+    t["Pankki.Vakuutukset"] = Nappi("vaku", AvaaVakuutukset);
+    t["Pankki.SuljeVakuutukset"] = Nappi("Command11", SuljeVakuutukset);
     t["Pankki.Vakuutus"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
-                                        VaadiAuki(peli);
-                                        if (!peli.pankkiruutu.VakuLappu)
-                                            throw std::runtime_error("the insurance sheet is not showing: "
-                                                                     "call Pankki.Vakuutukset first");
                                         const Vakuutus v = VakuutusSanasta(a[0]);
                                         if (a[1] != "0" && a[1] != "1")
                                             throw std::runtime_error("a policy's box is 0 or 1: '" + a[1] + "'");
+                                        VaadiPainettava(peli, "Pankki." + std::string(VAKUUTUSTAULU[v].laatikko));
                                         VaihdaVakuutus(peli, v, a[1] == "1");
                                     }};
+    // The pointer on a box, or on the text below them; the sheet must show.
     t["Pankki.Osoita"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                      VaadiAuki(peli);
-                                      OsoitinVakuutukseen(peli, a[0] == "Vakuinfo" ? -1 : static_cast<int>(VakuutusSanasta(a[0])));
+                                      const int v = a[0] == "Vakuinfo" ? -1 : static_cast<int>(VakuutusSanasta(a[0]));
+                                      if (!peli.pankkiruutu.VakuLappu) Ohita();
+                                      OsoitinVakuutukseen(peli, v);
                                   }};
 }
 

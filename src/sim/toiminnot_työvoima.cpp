@@ -1,5 +1,6 @@
-// The runner's operations of the staff screen.
-#include <algorithm>
+// The runner's operations of the staff screen. None needs the screen opened first: the job list is
+// the one the stars give the farm now, as the screen fills it at each opening.
+#include <charconv>
 #include <stdexcept>
 #include <string>
 
@@ -18,68 +19,80 @@ Työläinen Ammatti(const std::string& nimi) {
     return static_cast<Työläinen>(k);
 }
 
-long long Kokonaisluku(const std::string& sana, const std::string& mikä) {
-    std::size_t loppu = 0;
+// A whole number typed for the operation, refused unless it lies in [pienin, suurin]; a number too
+// long for any width is refused the same way.
+int Luku(const std::string& sana, const std::string& mikä, int pienin, int suurin) {
     long long arvo = 0;
-    try {
-        arvo = std::stoll(sana, &loppu);
-    } catch (const std::exception&) {
-        loppu = 0;
-    }
-    if (loppu == 0 || loppu != sana.size()) throw std::runtime_error(mikä + " must be a whole number: '" + sana + "'");
-    return arvo;
+    const char* loppu = sana.data() + sana.size();
+    const auto [kohta, virhe] = std::from_chars(sana.data(), loppu, arvo);
+    if (virhe == std::errc::invalid_argument || kohta != loppu)
+        throw std::runtime_error(mikä + " must be a whole number: '" + sana + "'");
+    if (virhe == std::errc::result_out_of_range || arvo < pienin || arvo > suurin)
+        throw std::runtime_error(mikä + " goes from " + std::to_string(pienin) + " to " + std::to_string(suurin) +
+                                 ": '" + sana + "'");
+    return static_cast<int>(arvo);
 }
 
-// A click on the job in the list; the player can only click a job the list shows.
-void Valitse(Peli& peli, const std::string& nimi) {
+// A job as the player clicks it on the list: skipped when the stars keep it off the list.
+Työläinen ListaltaNimellä(const Peli& peli, const std::string& nimi) {
     const Työläinen k = Ammatti(nimi);
-    const auto& lista = peli.työvoimaruutu.Lista;
-    if (std::find(lista.begin(), lista.end(), k) == lista.end())
-        throw std::runtime_error("the job '" + nimi + "' is not on the staff list (open it with Työvoima.Avaa; "
-                                 "the stars may not have opened it yet)");
-    ValitseTyöläinen(peli, k);
+    if (!Tarjolla(peli.m, k)) Ohita();
+    return k;
 }
 
 // Chooses the job, then presses the button a number of times (once unless told).
-Toiminto Painike(void (*painike)(Peli&)) {
-    return Toiminto{1, 2, [painike](Peli& peli, const std::vector<std::string>& a) {
-                        const long long kertaa = a.size() > 1 ? Kokonaisluku(a[1], "the number of presses") : 1;
-                        if (kertaa < 1) throw std::runtime_error("the number of presses must be at least 1");
-                        Valitse(peli, a[0]);
-                        for (long long i = 0; i < kertaa; ++i) painike(peli);
+Toiminto Painike(void (*painike)(Peli&), const char* nappi) {
+    return Toiminto{1, 2, [painike, nappi](Peli& peli, const std::vector<std::string>& a) {
+                        const int kertaa = a.size() > 1 ? Luku(a[1], "the number of presses", 1, 32767) : 1;
+                        ValitseTyöläinen(peli, ListaltaNimellä(peli, a[0]));
+                        for (int i = 0; i < kertaa; ++i) {
+                            VaadiPainettava(peli, std::string("Työvoima.") + nappi);
+                            painike(peli);
+                        }
                     }};
-}
-
-Integer Mittarille(long long arvo) {
-    if (arvo < TyövoimaRuutuTila::MITTARI_MIN || arvo > TyövoimaRuutuTila::MITTARI_MAX)
-        throw std::runtime_error("the wage slider goes from -1000 to 1000 around the base wage");
-    return CInt(static_cast<double>(arvo));
 }
 
 }  // namespace
 
 void TyövoimanToiminnot(Toimintoluettelo& t) {
-    t["Työvoima.Avaa"] = Pelkkä(AvaaTyövoima);
+    t["Työvoima.Avaa"] = Pelkkä([](Peli& peli) {
+        VaadiPainettava(peli, "Tanhua.Command8");
+        AvaaTyövoima(peli);
+    });
     t["Työvoima.Valitse"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                         Valitse(peli, a[0]);
+                                         ValitseTyöläinen(peli, ListaltaNimellä(peli, a[0]));
                                      }};
-    t["Työvoima.Palkkaa"] = Painike(OtaTöihin);
-    t["Työvoima.Irtisano"] = Painike(Erota);
-    // The wage of a job as the slider sets it: the base wage plus the slider's value.
+    t["Työvoima.Palkkaa"] = Painike(OtaTöihin, "Command3");
+    t["Työvoima.Irtisano"] = Painike(Erota, "Command5");
+    // The wage of a job as the slider sets it: the base wage plus the slider's value. A wage is
+    // 16 bits and the slider reaches 1000 either side of the base; the tanner's and the dog's
+    // sliders, and one locked by a wage agreed this month, don't move.
     t["Työvoima.Palkka"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
                                         const Työläinen k = Ammatti(a[0]);
-                                        const long long palkka = Kokonaisluku(a[1], "the wage");
-                                        Valitse(peli, a[0]);
-                                        SiirräMittaria(peli, Mittarille(palkka - peli.m.PerusPalkka[k]));
+                                        const int ero = Luku(a[1], "the wage", -32768, 32767) - peli.m.PerusPalkka[k];
+                                        if (ero < TyövoimaRuutuTila::MITTARI_MIN || ero > TyövoimaRuutuTila::MITTARI_MAX)
+                                            throw std::runtime_error("the wage slider goes from -1000 to 1000 around "
+                                                                     "the base wage");
+                                        ListaltaNimellä(peli, a[0]);
+                                        if (!MittariLiikkuu(peli.m, k)) Ohita();
+                                        ValitseTyöläinen(peli, k);
+                                        SiirräMittaria(peli, CInt(ero));
                                     }};
     // The slider of the chosen job moved to a value around the base wage.
     t["Työvoima.Mittari"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                         SiirräMittaria(peli, Mittarille(Kokonaisluku(a[0], "the slider")));
+                                         const int arvo = Luku(a[0], "the slider", TyövoimaRuutuTila::MITTARI_MIN,
+                                                               TyövoimaRuutuTila::MITTARI_MAX);
+                                         VaadiPainettava(peli, "Työvoima.mittari");
+                                         SiirräMittaria(peli, CInt(arvo));
                                      }};
+    // Overtime on or off: the job is chosen, then its button pressed; a job whose overtime can't
+    // be set has both buttons off.
     t["Työvoima.Ylityö"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
                                         if (a[1] != "0" && a[1] != "1")
                                             throw std::runtime_error("overtime is 1 (on) or 0 (off): '" + a[1] + "'");
-                                        Valitse(peli, a[0]);
+                                        const Työläinen k = ListaltaNimellä(peli, a[0]);
+                                        if (!YlityöAsetettavissa(k)) Ohita();
+                                        ValitseTyöläinen(peli, k);
                                         if (a[1] == "1") YlityöPäälle(peli);
                                         else YlityöPois(peli);
                                     }};

@@ -3,6 +3,7 @@
 
 // own
 #include "Pääikkuna.h"
+#include "core/ohjaimet.h"
 #include "finance/pankki.h"
 #include "finance/taulut/pankki.h"
 #include "market/markkinat.h"
@@ -16,8 +17,11 @@
 namespace tanhua::ui {
 
 namespace {
-QPushButton* Nappi(const Peli& peli, const char* teksti, const char* nimi, QWidget* vanhempi) {
-    auto* n = new QPushButton(teksti, vanhempi);
+// A control of the screen as the game says it shows.
+Ohjain O(const Peli& peli, const QObject* w) { return *LueOhjain(peli, "Pankki." + w->objectName().toStdString()); }
+
+QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
+    auto* n = new QPushButton(vanhempi);
     n->setObjectName(nimi);
     Teksturoi(peli, n, "nappi2.jpg", 11, 12);
     n->setMinimumHeight(34);
@@ -30,7 +34,7 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     AsetaKuva(KuvaJosOn(peli_, "Kuvat/pankki.jpg"));
     aihe_ = AiheOtsikko("Pankki", this);
     ohje_ = OhjeRivi(this);
-    sulje_ = new QPushButton("Takaisin", this);
+    sulje_ = new QPushButton(this);
     sulje_->setObjectName("Command1");
     Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
     sulje_->setMinimumSize(140, 40);
@@ -40,13 +44,15 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     lainaz_ = Teksti("", 14, tili);
     lainaz_->setObjectName("lainaz");
     tiliz_ = Teksti("", 14, tili);
+    tiliz_->setObjectName("tiliz");
     maksuaikaz_ = Teksti("", 12, tili);
-    otaLainaa_ = Nappi(peli_, "Ota lainaa", "Command2", tili);
-    maksa_ = Nappi(peli_, "Maksa lainat", "Command3", tili);
-    talleta_ = Nappi(peli_, "Talleta rahaa", "Command4", tili);
-    nosta_ = Nappi(peli_, "Nosta talletukset", "Command5", tili);
-    pörssi_ = Nappi(peli_, "Pörssikurssit", "Command6", tili);
-    vaku_ = Nappi(peli_, "Vakuutukset", "vaku", tili);
+    maksuaikaz_->setObjectName("Maksuaikaz");
+    otaLainaa_ = Nappi(peli_, "Command2", tili);
+    maksa_ = Nappi(peli_, "Command3", tili);
+    talleta_ = Nappi(peli_, "Command4", tili);
+    nosta_ = Nappi(peli_, "Command5", tili);
+    pörssi_ = Nappi(peli_, "Command6", tili);
+    vaku_ = Nappi(peli_, "vaku", tili);
     connect(otaLainaa_, &QPushButton::clicked, this, [this] { Toimi(OtaLainaa); });
     connect(maksa_, &QPushButton::clicked, this, [this] { Toimi(MaksaLaina); });
     connect(talleta_, &QPushButton::clicked, this, [this] { Toimi(TalletaRahaa); });
@@ -80,7 +86,9 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
 QFrame* Pankki::Lappu() {
     QFrame* p = Paneeli(this, "Lappu");
     otsikko_ = Teksti("", 15, p);
+    otsikko_->setObjectName("otsikko");
     teksti_ = Teksti("", 10, p, false);
+    teksti_->setObjectName("teksti");
     teksti_->setWordWrap(true);
     summa_ = new QLineEdit(p);
     summa_->setObjectName("summa");
@@ -89,11 +97,14 @@ QFrame* Pankki::Lappu() {
         KirjoitaSumma(peli_, teksti.toStdString());
     });
     aikaz_ = Teksti("", 12, p);
+    aikaz_->setObjectName("aika");
     prossa_ = Teksti("", 12, p);
-    aikaAlas_ = Nappi(peli_, "<", "Command9", p);
-    aikaYlös_ = Nappi(peli_, ">", "Command10", p);
-    vahvista_ = Nappi(peli_, "Hyväksy", "Command8", p);
-    suljeLappu_ = Nappi(peli_, "Sulje", "Command7", p);
+    prossa_->setObjectName("prossa");
+    yksikkö_ = Teksti("‰ / kk", 12, p);
+    aikaAlas_ = Nappi(peli_, "Command9", p);
+    aikaYlös_ = Nappi(peli_, "Command10", p);
+    vahvista_ = Nappi(peli_, "Command8", p);
+    suljeLappu_ = Nappi(peli_, "Command7", p);
     connect(aikaAlas_, &QPushButton::clicked, this, [this] { Toimi(LyhennäMaksuaikaa); });
     connect(aikaYlös_, &QPushButton::clicked, this, [this] { Toimi(PidennäMaksuaikaa); });
     connect(vahvista_, &QPushButton::clicked, this, [this] { Toimi(VahvistaLappu); });
@@ -107,7 +118,10 @@ QFrame* Pankki::Lappu() {
     g->addWidget(aikaAlas_, 3, 0);
     g->addWidget(aikaz_, 3, 1, Qt::AlignCenter);
     g->addWidget(aikaYlös_, 3, 2);
-    g->addWidget(prossa_, 3, 3);
+    auto* korko = new QHBoxLayout;
+    korko->addWidget(prossa_);
+    korko->addWidget(yksikkö_);
+    g->addLayout(korko, 3, 3);
     g->addWidget(vahvista_, 4, 0, 1, 2);
     g->addWidget(suljeLappu_, 4, 2, 1, 2);
     p->hide();
@@ -117,8 +131,10 @@ QFrame* Pankki::Lappu() {
 QFrame* Pankki::VakuLappu() {
     QFrame* p = Paneeli(this, "VakuLappu");
     auto* g = new QGridLayout(p);
-    g->addWidget(Teksti("Vakuutukset", 15, p), 0, 0, 1, 2);
-    g->addWidget(Teksti("Rastita haluamasi vakuutukset listalta.", 10, p, false), 1, 0, 1, 2);
+    vakuOtsikko_ = Teksti("", 15, p);
+    g->addWidget(vakuOtsikko_, 0, 0, 1, 2);
+    g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 12, p), 1, 0, 1, 2);
+    g->addWidget(Teksti(Sv(pankkiteksti::Rastita), 10, p, false), 1, 1, Qt::AlignRight);
     for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
         const VakuutusRivi& rivi = VAKUUTUSTAULU[v];
         vakuutukset_[v] = new QCheckBox(Sv(rivi.nimi), p);
@@ -127,6 +143,7 @@ QFrame* Pankki::VakuLappu() {
         vakuutukset_[v]->setProperty("vakuutus", v);
         vakuutukset_[v]->installEventFilter(this);
         maksut_[v] = Teksti("", 11, p);
+        maksut_[v]->setObjectName(Sv(rivi.maksu));
         g->addWidget(vakuutukset_[v], 2 + v, 0);
         g->addWidget(maksut_[v], 2 + v, 1, Qt::AlignRight);
         connect(vakuutukset_[v], &QCheckBox::clicked, this, [this, v](bool päällä) {
@@ -141,10 +158,16 @@ QFrame* Pankki::VakuLappu() {
     vakuinfo_->setMinimumHeight(40);
     vakuinfo_->setProperty("vakuutus", -1);
     vakuinfo_->installEventFilter(this);
-    suljeVaku_ = Nappi(peli_, "Sulje", "Command11", p);
+    suljeVaku_ = Nappi(peli_, "Command11", p);
     connect(suljeVaku_, &QPushButton::clicked, this, [this] { Toimi(SuljeVakuutukset); });
-    g->addWidget(Teksti("Vakuutusmaksut yhteensä :", 11, p, false), 7, 0);
-    g->addWidget(vakusumma_, 7, 1, Qt::AlignRight);
+    // The sum sits in the blanks of its line, before "/ kk".
+    const QString summarivi = Sv(pankkiteksti::VakuSumma);
+    auto* summa = new QHBoxLayout;
+    summa->addWidget(Teksti(summarivi.left(summarivi.indexOf(':') + 1), 11, p, false));
+    summa->addStretch();
+    summa->addWidget(vakusumma_);
+    summa->addWidget(Teksti(summarivi.mid(summarivi.lastIndexOf('/')), 11, p, false));
+    g->addLayout(summa, 7, 0, 1, 2);
     g->addWidget(vakuinfo_, 8, 0, 1, 2);
     g->addWidget(suljeVaku_, 9, 0, 1, 2);
     p->hide();
@@ -162,24 +185,34 @@ void Pankki::Avaa() { AvaaPankki(peli_); }
 
 void Pankki::Päivitä() {
     const PankkiRuutuTila& t = peli_.pankkiruutu;
-    lainaz_->setText(QString::fromStdString(t.lainaz));
-    tiliz_->setText(QString::fromStdString(t.tiliz));
-    maksuaikaz_->setText(QString::fromStdString(t.Maksuaikaz));
     lappu_->setVisible(t.Lappu);
-    otsikko_->setText(QString::fromStdString(t.otsikko));
-    teksti_->setText(QString::fromStdString(t.teksti));
-    if (summa_->text().toStdString() != t.summa) summa_->setText(QString::fromStdString(t.summa));
-    for (QWidget* w : std::initializer_list<QWidget*>{aikaz_, prossa_, aikaAlas_, aikaYlös_}) w->setVisible(t.aikaNäkyvissä);
-    aikaz_->setText(QString::fromStdString(t.aikaz));
-    prossa_->setText(QString::fromStdString(t.prossa) + " ‰ / kk");
-    vahvista_->setEnabled(t.Command8);
     vakuLappu_->setVisible(t.VakuLappu);
-    for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
-        vakuutukset_[v]->setChecked(peli_.m.Pankki.Vakuutus[v] == 1);
-        maksut_[v]->setText(QString::fromStdString(peli_.m.Pankki.Vakumaksu[v]));
+    vakuOtsikko_->setText(QString::fromStdString(LueOhjain(peli_, "Pankki.VakuLappu")->arvo));
+    // Every named label and button shows its control: text, whether it shows, whether it can be clicked.
+    for (QLabel* l : {lainaz_, tiliz_, maksuaikaz_, otsikko_, teksti_, aikaz_, prossa_, vakusumma_, vakuinfo_}) {
+        const Ohjain o = O(peli_, l);
+        l->setText(QString::fromStdString(o.arvo));
+        if (l->parentWidget() == lappu_) l->setVisible(o.näkyvissä);
     }
-    vakusumma_->setText(QString::fromStdString(t.Vakusummaz) + " / kk");
-    vakuinfo_->setText(QString::fromStdString(t.Vakuinfo));
+    yksikkö_->setVisible(t.aikaNäkyvissä);
+    for (QLabel* l : maksut_) l->setText(QString::fromStdString(O(peli_, l).arvo));
+    for (QPushButton* b : {otaLainaa_, maksa_, talleta_, nosta_, pörssi_, vaku_, sulje_, aikaAlas_, aikaYlös_, vahvista_,
+                           suljeLappu_, suljeVaku_}) {
+        const Ohjain o = O(peli_, b);
+        if (!o.näkyvissä) {
+            b->setVisible(false);
+            continue;
+        }
+        b->setText(QString::fromStdString(o.arvo));
+        b->setEnabled(o.käytössä);
+        b->setVisible(true);
+    }
+    const Ohjain summa = O(peli_, summa_);
+    if (summa.näkyvissä && summa_->text().toStdString() != summa.arvo) summa_->setText(QString::fromStdString(summa.arvo));
+    for (QCheckBox* c : vakuutukset_) {
+        const Ohjain o = O(peli_, c);
+        if (o.näkyvissä) c->setChecked(o.arvo == "True");
+    }
     ohje_->setVisible(false);
 }
 

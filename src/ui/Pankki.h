@@ -47,7 +47,7 @@ private:
     Pääikkuna& ikkuna_;
     QLabel *aihe_, *ohje_, *lainaz_, *tiliz_, *maksuaikaz_;
     QFrame *lappu_, *vakuLappu_;
-    QLabel *otsikko_, *teksti_, *aikaz_, *prossa_, *vakusumma_, *vakuinfo_;
+    QLabel *otsikko_, *teksti_, *aikaz_, *prossa_, *yksikkö_, *vakuOtsikko_, *vakusumma_, *vakuinfo_;
     QLineEdit* summa_;
     QPushButton *otaLainaa_, *maksa_, *talleta_, *nosta_, *pörssi_, *vaku_, *sulje_;
     QPushButton *aikaAlas_, *aikaYlös_, *vahvista_, *suljeLappu_, *suljeVaku_;

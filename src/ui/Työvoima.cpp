@@ -3,6 +3,7 @@
 
 // own
 #include "Pääikkuna.h"
+#include "core/ohjaimet.h"
 #include "workforce/työvoima.h"
 // Qt
 #include <QGridLayout>
@@ -13,7 +14,16 @@
 namespace tanhua::ui {
 
 namespace {
-QString Luku(long long x) { return QString::fromStdString(Str(x)); }
+// A control of the screen as the game says it shows.
+Ohjain O(const Peli& peli, const char* nimi) { return *LueOhjain(peli, std::string("Työvoima.") + nimi); }
+QString Arvo(const Peli& peli, const char* nimi) { return QString::fromStdString(O(peli, nimi).arvo); }
+// A label or button takes its text and whether it can be clicked from its control.
+void Näytä(const Peli& peli, QLabel* l, const char* nimi) { l->setText(Arvo(peli, nimi)); }
+void Näytä(const Peli& peli, QPushButton* b, const char* nimi) {
+    const Ohjain o = O(peli, nimi);
+    b->setText(QString::fromStdString(o.arvo));
+    b->setEnabled(o.käytössä);
+}
 }  // namespace
 
 Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
@@ -22,7 +32,7 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     AsetaKuva(KuvaJosOn(peli_, "Kuvat/kirkonkylä.jpg"));
     aihe_ = AiheOtsikko("Työvoima", this);
     ohje_ = OhjeRivi(this);
-    sulje_ = new QPushButton("Takaisin", this);
+    sulje_ = new QPushButton(this);
     sulje_->setObjectName("Command1");
     Teksturoi(peli_, sulje_, "nappi2.jpg", 11, 12);
     sulje_->setMinimumSize(140, 40);
@@ -34,14 +44,21 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     lista_->setObjectName("Lista");
     lista_->setStyleSheet("QListWidget { font-size: 12pt; background: transparent; border: none; }");
     työläisiä_ = Teksti("", 11, vasen);
+    työläisiä_->setObjectName("Työläisiä");
     yhtpalk_ = Teksti("", 11, vasen);
+    yhtpalk_->setObjectName("yhtpalk");
     auto* v = new QVBoxLayout(vasen);
     v->addWidget(Teksti("Työpaikat :", 12, vasen));
     v->addWidget(lista_, 1);
-    v->addWidget(työläisiä_);
-    v->addWidget(yhtpalk_);
+    auto* summat = new QGridLayout;
+    summat->addWidget(Teksti("Työntekijöitä yhteensä :", 11, vasen), 0, 0);
+    summat->addWidget(työläisiä_, 0, 1);
+    summat->addWidget(Teksti("Palkat yhteensä :", 11, vasen), 1, 0);
+    summat->addWidget(yhtpalk_, 1, 1);
+    summat->addWidget(Teksti("/ kk", 11, vasen), 1, 2);
+    v->addLayout(summat);
     connect(lista_, &QListWidget::currentRowChanged, this, [this](int rivi) {
-        const auto& tarjolla = peli_.työvoimaruutu.Lista;
+        const auto tarjolla = TarjolleTyöläiset(peli_.m);
         if (rivi < 0 || rivi >= static_cast<int>(tarjolla.size())) return;
         if (peli_.työvoimaruutu.valittu == static_cast<int>(tarjolla[rivi])) return;
         const Työläinen k = tarjolla[rivi];
@@ -51,18 +68,25 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     // The chosen job on the right.
     QFrame* kortti = Paneeli(this, "tyokortti");
     työ_ = Teksti("", 16, kortti);
+    työ_->setObjectName("työ");
     kuva_ = new QLabel(kortti);
+    kuva_->setObjectName("Kuva");
     info_ = Teksti("", 10, kortti, false);
+    info_->setObjectName("info");
     info_->setWordWrap(true);
     info_->setMinimumHeight(60);
     palkka_ = Teksti("", 11, kortti, false);
+    palkka_->setObjectName("palkka");
     työmies_ = Teksti("", 11, kortti, false);
     työmies_->setObjectName("työmies");
     palk_ = Teksti("", 12, kortti);
     palk_->setObjectName("palk");
     yliTyö_ = Teksti("", 11, kortti, false);
+    yliTyö_->setObjectName("YliTyö");
     moti_ = Teksti("", 10, kortti, false);
+    moti_->setObjectName("Moti");
     stres_ = Teksti("", 10, kortti, false);
+    stres_->setObjectName("Stres");
     mittari_ = new QSlider(Qt::Horizontal, kortti);
     mittari_->setObjectName("mittari");
     mittari_->setRange(TyövoimaRuutuTila::MITTARI_MIN, TyövoimaRuutuTila::MITTARI_MAX);
@@ -71,10 +95,10 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     connect(mittari_, &QSlider::valueChanged, this, [this](int arvo) {
         ikkuna_.Toimi([this, arvo] { SiirräMittaria(peli_, CInt(arvo)); });
     });
-    ota_ = new QPushButton("Ota töihin", kortti);
-    erota_ = new QPushButton("Erota", kortti);
-    ylityöPäälle_ = new QPushButton("Ylityöt päälle", kortti);
-    ylityöPois_ = new QPushButton("Ylityöt pois", kortti);
+    ota_ = new QPushButton(kortti);
+    erota_ = new QPushButton(kortti);
+    ylityöPäälle_ = new QPushButton(kortti);
+    ylityöPois_ = new QPushButton(kortti);
     const std::array<std::pair<QPushButton*, const char*>, 4> napit{
         std::pair{ota_, "Command3"}, std::pair{erota_, "Command5"}, std::pair{ylityöPäälle_, "Command7"},
         std::pair{ylityöPois_, "Command6"}};
@@ -123,36 +147,31 @@ void Työvoima::Päivitä() {
     const TyövoimaRuutuTila& t = peli_.työvoimaruutu;
     {
         const QSignalBlocker esto(lista_);
-        if (lista_->count() != static_cast<int>(t.Lista.size())) {
+        const QStringList rivit = Arvo(peli_, "Lista").split('|', Qt::SkipEmptyParts);
+        QStringList nyt;
+        for (int i = 0; i < lista_->count(); ++i) nyt << lista_->item(i)->text();
+        if (nyt != rivit) {
             lista_->clear();
-            for (Työläinen k : t.Lista) lista_->addItem(Sv(TYÖLÄISTAULU[k].avain));
+            lista_->addItems(rivit);
         }
-        int rivi = -1;
-        for (std::size_t i = 0; i < t.Lista.size(); ++i)
-            if (static_cast<int>(t.Lista[i]) == t.valittu) rivi = static_cast<int>(i);
-        lista_->setCurrentRow(rivi);
+        lista_->setCurrentRow(rivit.indexOf(Arvo(peli_, "työ")));
     }
-    työläisiä_->setText("Työntekijöitä yhteensä :" + Luku(t.Työläisiä));
-    yhtpalk_->setText("Palkat yhteensä :" + QString::fromStdString(Str(t.yhtpalk)) + " / kk");
-    const bool valittu = t.valittu >= 0;
-    for (QWidget* w : std::initializer_list<QWidget*>{ota_, erota_, mittari_}) w->setEnabled(valittu);
-    työ_->setText(QString::fromStdString(t.työ));
+    for (auto [l, nimi] : {std::pair{työläisiä_, "Työläisiä"}, std::pair{yhtpalk_, "yhtpalk"}, std::pair{työ_, "työ"},
+                           std::pair{info_, "info"}, std::pair{palkka_, "palkka"}, std::pair{työmies_, "työmies"},
+                           std::pair{palk_, "palk"}, std::pair{yliTyö_, "YliTyö"}, std::pair{moti_, "Moti"},
+                           std::pair{stres_, "Stres"}})
+        Näytä(peli_, l, nimi);
+    for (auto [b, nimi] : {std::pair{ota_, "Command3"}, std::pair{erota_, "Command5"}, std::pair{ylityöPäälle_, "Command7"},
+                           std::pair{ylityöPois_, "Command6"}, std::pair{sulje_, "Command1"}})
+        Näytä(peli_, b, nimi);
     kuva_->setPixmap(t.kuva.empty() ? QPixmap()
                                     : KuvaJosOn(peli_, t.kuva).scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    info_->setText(QString::fromStdString(t.info));
-    palkka_->setText(valittu ? Luku(t.palkka) : QString());
-    työmies_->setText(valittu ? Luku(t.työmies) : QString());
-    palk_->setText(valittu ? Luku(t.palk) : QString());
-    yliTyö_->setText(QString::fromStdString(t.YliTyö));
-    ylityöPäälle_->setEnabled(valittu && t.ylityöNapit);
-    ylityöPois_->setEnabled(valittu && t.ylityöNapit);
+    const Ohjain mittari = O(peli_, "mittari");
     {
         const QSignalBlocker esto(mittari_);
-        mittari_->setValue(t.mittari);
+        mittari_->setValue(std::stoi(mittari.arvo));
     }
-    mittari_->setEnabled(valittu && t.mittariKäytössä);
-    moti_->setText(QString::fromStdString(t.Moti));
-    stres_->setText(QString::fromStdString(t.Stres));
+    mittari_->setEnabled(mittari.käytössä);
     ohje_->setVisible(peli_.m.OhjeetPäällä && !peli_.näkymä.Ohje.empty());
 }
 

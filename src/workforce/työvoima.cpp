@@ -62,7 +62,7 @@ int TyöläinenNimellä(std::string_view nimi) {
 std::vector<Työläinen> TarjolleTyöläiset(const Muuttujat& m) {
     std::vector<Työläinen> lista;
     for (Työläinen k : TYÖLÄISTEN_NÄYTTÖJÄRJESTYS)
-        if (!m.TähtiLukitus || TYÖLÄISTAULU[k].tähtiä <= m.Tähdet) lista.push_back(k);
+        if (Tarjolla(m, k)) lista.push_back(k);
     return lista;
 }
 
@@ -72,8 +72,18 @@ Long TyöpaikkojaRakennuksessa(const Muuttujat& m, Työläinen k) {
     return CLng(2.0 * m.Rak[*katto]);
 }
 
+bool Tarjolla(const Muuttujat& m, Työläinen k) {
+    return !m.TähtiLukitus || TYÖLÄISTAULU[k].tähtiä <= m.Tähdet;
+}
+
+bool MittariLiikkuu(const Muuttujat& m, Työläinen k) {
+    return AMMATTITAULU[k].palkkaAsetettavissa && !m.PalkkaLukko[k];
+}
+
+bool YlityöAsetettavissa(Työläinen k) { return AMMATTITAULU[k].ylityöAsetettavissa; }
+
 void AvaaTyövoima(Peli& peli) {
-    peli.työvoimaruutu.Lista = TarjolleTyöläiset(peli.m);
+    SoitaÄäni(peli, "klik");
     Lasketyöläiset(peli);
     Motilasku(peli);
     Stressilasku(peli);
@@ -102,7 +112,7 @@ void ValitseTyöläinen(Peli& peli, Työläinen k) {
         r.ylityöNapit = false;
     }
 
-    r.mittariKäytössä = a.palkkaAsetettavissa && !m.PalkkaLukko[k];
+    r.mittariKäytössä = MittariLiikkuu(m, k);
     if (!a.palkkaAsetettavissa) {
         AsetaMittari(peli, 0);
         return;

@@ -22,7 +22,15 @@ std::vector<Työläinen> TarjolleTyöläiset(const Muuttujat& m);
 // The room a job's building gives: two workers a level; -1 for a job without a cap.
 Long TyöpaikkojaRakennuksessa(const Muuttujat& m, Työläinen k);
 
-// AvaaTyövoima: the screen opens: the list is filled, the staff total and the gauges are shown.
+// Whether a job is on the list the stars give the screen now.
+bool Tarjolla(const Muuttujat& m, Työläinen k);
+// Whether the slider moves the job's wage: not for the tanner and the dog, nor while a wage agreed
+// this month is locked.
+bool MittariLiikkuu(const Muuttujat& m, Työläinen k);
+// Whether the overtime buttons work for the job.
+bool YlityöAsetettavissa(Työläinen k);
+
+// AvaaTyövoima: the screen opens with a click: the staff total and the gauges are shown.
 void AvaaTyövoima(Peli& peli);
 
 // Lista_Click: a job is chosen: its labels, picture and text, the overtime answer, and the slider

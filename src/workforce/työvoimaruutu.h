@@ -2,19 +2,18 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "../core/laskenta.h"
 #include "../core/taulut/työvoima.h"
 
 namespace tanhua {
 
+// The job list itself is not held here: the screen fills it by the stars at each opening, and the
+// stars only change on a day's press, while the screen is closed, so the list a player sees is always
+// TarjolleTyöläiset of the farm as it stands.
 struct TyövoimaRuutuTila {
-    // The job list Lista, in the screen's order, as the stars allow.
-    std::vector<Työläinen> Lista;
-
     // The chosen job: an index of TYÖLÄISTAULU, -1 before the player has chosen one.
-    // Reopening the screen keeps the choice and its labels; only the list is filled anew.
+    // Reopening the screen keeps the choice and its labels.
     int valittu = -1;
     std::string työ;         // the job's name
     std::string kuva;        // its picture, under the program folder

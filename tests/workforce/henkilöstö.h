@@ -9,6 +9,8 @@
 
 namespace tanhua::testi {
 
+using Tapahtumat = std::vector<std::string>;
+
 // Every job listed, and cash for a claim when someone is fired.
 struct Tila : Testipeli {
     Tila() {
@@ -17,6 +19,7 @@ struct Tila : Testipeli {
         m.TähtiLukitus = false;
         m.Raha = 10000;
         AvaaTyövoima(peli);
+        Tapahtumat();
     }
     void Valitse(Työläinen k) {
         ValitseTyöläinen(peli, k);

@@ -31,6 +31,7 @@ inline constexpr std::string_view Velkoja = "Sinulla on rästissä edellisiä ve
 inline constexpr std::string_view LainaOhje =
     "Ota lainaa. Pankki laskee omaisuuden mukaan maksimi lainasumman. Voit itse valita maksuajan, jonka mukaan "
     "määräytyy myös korkoprosentti.";
+inline constexpr std::string_view EiNollaa = "Lainan summan pitää olla suurempi kuin nolla.";
 inline constexpr std::string_view LiikaaAlku = "Pankki ei suostu lainaamaan sinulle noin paljoa, miten olisi ";
 inline constexpr std::string_view LiikaaLoppu = " ?";
 inline constexpr std::string_view LainattuAlku = "Pankki lainasi sinulle juuri ";
@@ -53,22 +54,23 @@ inline constexpr std::string_view VakuSumma = "Vakuutusmaksut yhteensä :       
 // A policy's box: its name, label and pointer text, indexed as the boxes of the record.
 struct VakuutusRivi {
     std::string_view laatikko;  // VakuutusPalo, ...
+    std::string_view maksu;     // the premium label beside it: VakuPalo, ...
     std::string_view nimi;      // the label beside the box
     std::string_view info;      // the text shown in Vakuinfo while the pointer is on the box
 };
 
 inline constexpr std::array<VakuutusRivi, VAKUUTUKSIA> VAKUUTUSTAULU = [] {
     std::array<VakuutusRivi, VAKUUTUKSIA> t{};
-    t[VakuutusPalo] = {"VakuutusPalo", "Luonnonvoima- ja palovakuutus",
+    t[VakuutusPalo] = {"VakuutusPalo", "VakuPalo", "Luonnonvoima- ja palovakuutus",
                        "Tämä vakuutus korvaa kaikki luonnonvoimien aiheuttamat tuhot. Esimerkiksi tulipalot ja "
                        "myrskyt."};
-    t[VakuutusVarkaus] = {"VakuutusVarkaus", "Varkaus- ja ilkivaltavakuutus",
+    t[VakuutusVarkaus] = {"VakuutusVarkaus", "VakuVarka", "Varkaus- ja ilkivaltavakuutus",
                           "Tämä vakuutus korvaa aktivistien, sekä varkaiden aiheuttamat vahingot."};
-    t[VakuutusEläin] = {"VakuutusEläin", "Eläinvakuutus tautien varalta",
+    t[VakuutusEläin] = {"VakuutusEläin", "VakuElä", "Eläinvakuutus tautien varalta",
                         "Tämä vakuutus korvaa eläinten tapaturmaisen kuoleman tai sairastumisen."};
-    t[VakuutusTyö] = {"VakuutusTyö", "Tapaturmavakuutus työntekijöille",
+    t[VakuutusTyö] = {"VakuutusTyö", "VakuTyö", "Tapaturmavakuutus työntekijöille",
                       "Tämä vakuutus korvaa työntekijöiden työpaikka tapaturmat ja onnettomuudet."};
-    t[VakuutusTarvike] = {"VakuutusTarvike", "Vakuutus tarvikkeille ja konerikoille",
+    t[VakuutusTarvike] = {"VakuutusTarvike", "VakuTarvike", "Vakuutus tarvikkeille ja konerikoille",
                           "Tämä vakuutus korvaa kaikkien tarvikkeiden konerikot, sekä työkoneiden hajoamiset."};
     return t;
 }();
