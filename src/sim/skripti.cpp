@@ -1,7 +1,9 @@
 // The headless runner: the script's commands on one game, with recording channels.
 #include "skripti.h"
 
+#include <charconv>
 #include <cstdio>
+#include <limits>
 #include <fstream>
 #include <istream>
 #include <ostream>
@@ -22,20 +24,20 @@ namespace tanhua {
 namespace {
 [[noreturn]] void Virhe(const std::string& syy) { throw std::runtime_error(syy); }
 
-long long Kokonaisluku(const std::string& sana, const std::string& mikä) {
-    std::size_t käytetty = 0;
-    long long arvo = 0;
-    try {
-        arvo = std::stoll(sana, &käytetty);
-    } catch (const std::exception&) {
-        käytetty = 0;
-    }
-    if (käytetty == 0 || käytetty != sana.size()) Virhe(mikä + " must be a whole number: '" + sana + "'");
-    return arvo;
-}
 }  // namespace
 
 void Ohita() { throw Ohitettu{}; }
+
+long long Luku(const std::string& sana, const std::string& mikä, long long pienin, long long suurin) {
+    long long arvo = 0;
+    const char* loppu = sana.data() + sana.size();
+    const auto [kohta, virhe] = std::from_chars(sana.data(), loppu, arvo);
+    if (sana.empty() || virhe == std::errc::invalid_argument || kohta != loppu)
+        Virhe(mikä + " must be a whole number: '" + sana + "'");
+    if (virhe == std::errc::result_out_of_range || arvo < pienin || arvo > suurin)
+        Virhe(mikä + " goes from " + std::to_string(pienin) + " to " + std::to_string(suurin) + ": '" + sana + "'");
+    return arvo;
+}
 
 void VaadiPainettava(const Peli& peli, const std::string& ohjain) {
     if (!Painettavissa(peli, ohjain)) Ohita();
@@ -78,8 +80,7 @@ void Ajuri::Uusi(const std::vector<std::string>& sanat) {
     for (std::size_t i = 0; i < PELIMOODIT.size(); ++i)
         if (sanat[2] == PELIMOODIT[i]) tavoite = static_cast<int>(i);
     if (tavoite < 0) Virhe("GOAL must be Vapaa, Miljoona or \"10 vuotta\": '" + sanat[2] + "'");
-    const long long taso = Kokonaisluku(sanat[3], "DIFFICULTY");
-    if (taso < 0 || taso > 2) Virhe("DIFFICULTY must be 0, 1 or 2");
+    const long long taso = Luku(sanat[3], "DIFFICULTY", 0, 2);
     if (sanat[4] != "on" && sanat[4] != "off") Virhe("STARS must be on or off");
     if (peli_->käynnissä) {
         // A new farm from the start screen leaves nothing of the last one.
@@ -127,8 +128,7 @@ void Ajuri::Kutsu(const std::vector<std::string>& sanat) {
 void Ajuri::Päivät(const std::vector<std::string>& sanat) {
     if (sanat.size() != 2) Virhe("days takes N");
     VaadiTila("days");
-    const long long n = Kokonaisluku(sanat[1], "N");
-    if (n < 0) Virhe("N must not be negative");
+    const long long n = Luku(sanat[1], "N", 0, 1000000);
     for (long long i = 0; i < n; ++i) {
         SeuraavaPäivä(*peli_);
         SuljeAvoinRaportti();
@@ -238,11 +238,10 @@ void Ajuri::Tiedosto(const std::vector<std::string>& sanat, std::ostream& ulos) 
 void Ajuri::Muuta(const std::vector<std::string>& sanat) {
     if (sanat.size() != 4) Virhe("poke takes NAME OFFSET BYTE");
     const auto polku = Datatiedosto(sanat[1]);
-    const long long kohta = Kokonaisluku(sanat[2], "OFFSET");
-    const long long tavu = Kokonaisluku(sanat[3], "BYTE");
-    if (tavu < 0 || tavu > 255) Virhe("BYTE must be 0 to 255");
+    const long long kohta = Luku(sanat[2], "OFFSET", 0, std::numeric_limits<long long>::max());
+    const long long tavu = Luku(sanat[3], "BYTE", 0, 255);
     const auto koko = std::filesystem::file_size(polku);
-    if (kohta < 0 || static_cast<unsigned long long>(kohta) >= koko)
+    if (static_cast<unsigned long long>(kohta) >= koko)
         Virhe("OFFSET must be within the file's " + std::to_string(koko) + " bytes");
     std::fstream f(polku, std::ios::in | std::ios::out | std::ios::binary);
     f.seekp(kohta);
@@ -266,8 +265,7 @@ void Ajuri::Rivi(const std::string& rivi, std::ostream& ulos) {
         Arvonnat(sanat);
     } else if (komento == "seed") {
         if (sanat.size() != 2) Virhe("seed takes N");
-        const long long n = Kokonaisluku(sanat[1], "N");
-        if (n < 0 || n > 0xFFFFFFFFLL) Virhe("N must be 0 to 4294967295");
+        const long long n = Luku(sanat[1], "N", 0, 0xFFFFFFFFLL);
         peli_->arvonta.Siemen(static_cast<std::uint32_t>(n));
     } else if (komento == "answer") {
         for (std::size_t i = 1; i < sanat.size(); ++i) kanavat_.vastaukset.push_back(sanat[i]);

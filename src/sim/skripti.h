@@ -44,6 +44,10 @@ struct Ohitettu {};
 // Throws Ohitettu unless the control ("Eläimet.Command2", "Tanhua.TP_Kuva(1)") can be clicked.
 void VaadiPainettava(const Peli& peli, const std::string& ohjain);
 
+// A whole number typed into a command or an operation, refused (std::runtime_error) unless it is
+// one and lies in [pienin, suurin]; nothing is narrowed before the check.
+long long Luku(const std::string& sana, const std::string& mikä, long long pienin, long long suurin);
+
 // An operation that takes no arguments.
 Toiminto Pelkkä(void (*f)(Peli&));
 

@@ -19,20 +19,6 @@ Työläinen Ammatti(const std::string& nimi) {
     return static_cast<Työläinen>(k);
 }
 
-// A whole number typed for the operation, refused unless it lies in [pienin, suurin]; a number too
-// long for any width is refused the same way.
-int Luku(const std::string& sana, const std::string& mikä, int pienin, int suurin) {
-    long long arvo = 0;
-    const char* loppu = sana.data() + sana.size();
-    const auto [kohta, virhe] = std::from_chars(sana.data(), loppu, arvo);
-    if (virhe == std::errc::invalid_argument || kohta != loppu)
-        throw std::runtime_error(mikä + " must be a whole number: '" + sana + "'");
-    if (virhe == std::errc::result_out_of_range || arvo < pienin || arvo > suurin)
-        throw std::runtime_error(mikä + " goes from " + std::to_string(pienin) + " to " + std::to_string(suurin) +
-                                 ": '" + sana + "'");
-    return static_cast<int>(arvo);
-}
-
 // A job as the player clicks it on the list: skipped when the stars keep it off the list.
 Työläinen ListaltaNimellä(const Peli& peli, const std::string& nimi) {
     const Työläinen k = Ammatti(nimi);

@@ -50,11 +50,11 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"new A Vapaa 1 on\nprint Rahaa\n", "line 2: unknown value 'Rahaa'"},
                             {"new A Vapaa 1 on\ncall Lentää\n", "line 2: unknown operation 'Lentää'"},
                             {"# \"a quote in a comment\n\nnew A Jotain 1 on\n", "line 3: GOAL must be"},
-                            {"new A Vapaa 3 on\n", "line 1: DIFFICULTY must be 0, 1 or 2"},
+                            {"new A Vapaa 3 on\n", "line 1: DIFFICULTY goes from 0 to 2"},
                             {"draws 0.5 1.0\n", "line 1: a draw must be a decimal number in [0,1)"},
                             {"draws 0x0.8p0\n", "line 1: a draw must be a decimal number"},
                             {"draws -0.0\n", "line 1: a draw must be a decimal number"},
-                            {"seed -1\n", "line 1: N must be 0 to 4294967295"},
+                            {"seed -1\n", "line 1: N goes from 0 to 4294967295"},
                             {"new A Vapaa 1 on\ndays kaksi\n", "line 2: N must be a whole number"},
                             {"new A Vapaa 1 on\ncall SeuraavaPäivä 3\n", "line 2: wrong number of arguments"},
                             {"set Raha\n", "line 1: set takes NAME VALUE"},
@@ -70,7 +70,7 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"file ../Asetukset.dat\n", "line 1: a file of the data folder is named without folders"},
                             {"file Puuttuu.sav\n", "line 1: no file 'Puuttuu.sav'"},
                             {"poke Asetukset.dat 100000 1\n", "line 1: OFFSET must be within the file's"},
-                            {"poke Asetukset.dat 0 256\n", "line 1: BYTE must be 0 to 255"}}) {
+                            {"poke Asetukset.dat 0 256\n", "line 1: BYTE goes from 0 to 255"}}) {
         const Ajo ajo = Aja(c.skripti);
         EXPECT_EQ(ajo.tila, 1) << c.skripti;
         EXPECT_NE(ajo.virheet.find(c.virhe), std::string::npos) << c.skripti << ajo.virheet;
