@@ -1,8 +1,8 @@
 # The two commands of a newcomer: `make run` and `make test`.
 BUILD ?= build
 JOBS ?= 2
-# The checking builds of `make test`: the library, the runner and their tests under the address and
-# undefined-behaviour sanitizers (g++), and the fuzz targets (clang's libFuzzer). Both read the
+# The checking builds of `make test`: the library, the runner, the window and their tests under the
+# address and undefined-behaviour sanitizers (g++), and the fuzz targets (clang's libFuzzer). Both read the
 # program folder the plain build generated.
 SAN_BUILD ?= build-san
 FUZZ_BUILD ?= build-fuzz
@@ -37,7 +37,7 @@ benchmark: build
 
 test: build
 	@cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
-	@cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTANHUA_SANITIZE=ON -DTANHUA_WINDOW=OFF \
+	@cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTANHUA_SANITIZE=ON \
 		-DTANHUA_ASSETS=OFF -DTANHUA_PROGRAM_DIR=$(PROGRAM_DIR) > /dev/null
 	@cmake --build $(SAN_BUILD) -j$(JOBS)
 	@cd $(SAN_BUILD) && ctest --output-on-failure -j$(JOBS)
