@@ -80,17 +80,27 @@ TEST(AnimalCards, TheLotStepsBetweenOneTenAndHundred) {
     for (const std::string& e : äänet) EXPECT_EQ(e, "ÄÄNI|siirto");
 }
 
-TEST(SlaughterLimits, ATypedLimitBecomesAWholeNumberNotBelowZero) {
-    Testipeli t;
-    t.Aloita();
-    const std::pair<const char*, const char*> tapaukset[] = {
-        {"12.7", "12"}, {"-3", "0"}, {"-0.5", "0"}, {"abc", "0"}, {"", "0"}, {"3abc", "3"}, {" 40", "40"},
-        {"1e3", "1000"}};
+TEST(SlaughterLimits, ANumberBecomesItsWholePartNotBelowZeroAndTheRestIsRefused) {
+    // The field holds 5 before each text is typed; a refused text leaves it so.
+    struct Tapaus { const char* kirjoitettu; const char* jää; };
+    const Tapaus tapaukset[] = {
+        {"12.7", "12"}, {"-3", "0"}, {"-0.5", "0"}, {" 40 ", "40"}, {"1e3", "1000"}, {"7,9", "7"},
+        {"abc", "5"},   {"", "5"},   {"3abc", "5"}, {"1 2", "5"},   {"-", "5"},
+    };
     const int raja = TeurasRajaNimellä("Sonni");
     ASSERT_EQ(raja, 1);
-    for (const auto& [kirjoitettu, tulos] : tapaukset) {
-        TeurasRajaMuuttui(t.peli, raja, kirjoitettu);
-        EXPECT_EQ(t.m.Eläimet.TeurasRaja[1], tulos) << kirjoitettu;
+    for (const Tapaus& c : tapaukset) {
+        Testipeli t;
+        t.Aloita();
+        t.peli.asetukset.Äänitehosteet = true;
+        t.m.Eläimet.TeurasRaja[1] = "5";
+        t.Tapahtumat();
+        const bool otettu = TeurasRajaMuuttui(t.peli, raja, c.kirjoitettu);
+        EXPECT_EQ(t.m.Eläimet.TeurasRaja[1], c.jää) << c.kirjoitettu;
+        const Tapahtumat odotetut =
+            otettu ? Tapahtumat{} : Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|Teurasrajan pitää olla luku.|vastattu"};
+        EXPECT_EQ(otettu, std::string(c.jää) != "5") << c.kirjoitettu;
+        EXPECT_EQ(t.Tapahtumat(), odotetut) << c.kirjoitettu;
     }
     EXPECT_EQ(TeurasRajaNimellä("TeurasKettuUrosRaja"), 9);
     EXPECT_EQ(TeurasRajaNimellä("Ori"), -1);
