@@ -17,13 +17,9 @@ struct Tuotepeli : ::testing::Test {
         m.Kurssi.fill(0);
         m.Var.fill(0);
         m.Tulo.fill(0);
-        m.Raha = 0;
-        m.Liikevaihto = 0;
+        m.Raha = m.Liikevaihto = m.PakkaamoMax = m.PakkaamoKäsitelty = m.PakkaamoTulot = 0;
         m.Vuodenaika = "Kevät";
         m.Koko_Siilo = 1000;
-        m.PakkaamoMax = 0;
-        m.PakkaamoKäsitelty = 0;
-        m.PakkaamoTulot = 0;
         m.PakkaamoKerroin = 0.5f;
         t.Tapahtumat();
     }
@@ -40,8 +36,6 @@ TEST_F(Tuotepeli, CardShowsPriceSeasonOffsetAndTotal) {
     struct Tapaus { Tuote k; const char* kausi; int perus, kurssi; float varasto; const char* vAika; double yhinta, yht; };
     for (const Tapaus& c : {Tapaus{Villa, "Kesä", 4, 1, 10, "-2", 3, 30},
                             Tapaus{Villa, "Talvi", 4, 1, 10, "+2", 7, 70},
-                            Tapaus{Turkki, "Syksy", 1490, 0, 2, "+4", 1494, 2988},
-                            Tapaus{Makkara, "Kesä", 23, -1, 3, "+5", 27, 81},
                             Tapaus{Viini, "Kevät", 27, 0, 1, "+2", 29, 29},
                             Tapaus{Maito, "Talvi", 4, 2, 5, "0", 6, 30},
                             // Manure's offset is in the unit price only; the total goes by the market price.
@@ -78,20 +72,18 @@ TEST_F(Tuotepeli, FeedCardShowsTheCostOfFillingTheSiloRoundedToEven) {
 }
 
 TEST_F(Tuotepeli, ManureAndBoardCardsCarryTheFurtherBox) {
-    AvaaTuote(t.peli, Lanta);
-    EXPECT_TRUE(r.lisäasetusNäkyy);
-    EXPECT_EQ(r.lisäasetusTeksti, "Käytä lannoitetta pelloissasi.");
-    Tuotelisäasetus(t.peli, true);
-    EXPECT_TRUE(m.LantaPeltoon);
-    AvaaTuote(t.peli, Lauta);
-    EXPECT_FALSE(r.lisäasetusNäkyy) << "without a carpenter";
-    m.Työ[Kirvesmies] = 1;
-    AvaaTuote(t.peli, Lauta);
-    EXPECT_EQ(r.lisäasetusTeksti, "Käytä lautoja hyödyksi, kun rakennat rakennuksia.");
-    Tuotelisäasetus(t.peli, true);
-    EXPECT_TRUE(m.LautaRakennukseen);
-    AvaaTuote(t.peli, Maito);
-    EXPECT_FALSE(r.lisäasetusNäkyy);
+    struct Tapaus { Tuote k; long kirvesmiehiä; const char* teksti; bool Muuttujat::*kenttä; };
+    for (const Tapaus& c : {Tapaus{Lanta, 0, "Käytä lannoitetta pelloissasi.", &Muuttujat::LantaPeltoon},
+                            {Lauta, 0, nullptr, nullptr}, {Maito, 1, nullptr, nullptr},
+                            {Lauta, 1, "Käytä lautoja hyödyksi, kun rakennat rakennuksia.", &Muuttujat::LautaRakennukseen}}) {
+        m.Työ[Kirvesmies] = c.kirvesmiehiä;
+        AvaaTuote(t.peli, c.k);
+        EXPECT_EQ(r.lisäasetusNäkyy, c.teksti != nullptr) << c.k;
+        if (!c.teksti) continue;
+        EXPECT_EQ(r.lisäasetusTeksti, c.teksti);
+        Tuotelisäasetus(t.peli, true);
+        EXPECT_TRUE(m.*c.kenttä);
+    }
 }
 
 TEST_F(Tuotepeli, SellingAllPaysTheCardsTotalAndThePackingPlantWhileUnderItsLimit) {
@@ -99,38 +91,30 @@ TEST_F(Tuotepeli, SellingAllPaysTheCardsTotalAndThePackingPlantWhileUnderItsLimi
     for (const Tapaus& c : {Tapaus{99, 250, 199}, Tapaus{100, 0, 100}}) {
         Hinta(Maito, 4, 1);
         m.Var[Maito] = 100;
-        m.Raha = 1000;
-        m.Liikevaihto = 0;
-        m.Tulo[Maito] = 0;
+        m.Raha = m.Liikevaihto = m.Tulo[Maito] = m.PakkaamoTulot = 0;
         m.PakkaamoMax = 100;
         m.PakkaamoKäsitelty = c.käsitelty;
-        m.PakkaamoTulot = 0;
         AvaaTuote(t.peli, Maito);
         MyyKaikki(t.peli);
-        EXPECT_EQ(m.Raha, 1500);
+        EXPECT_EQ(m.Raha, 500);
         EXPECT_EQ(m.Liikevaihto, 500);
         EXPECT_EQ(m.Tulo[Maito], 500);
         EXPECT_EQ(m.Var[Maito], 0);
         EXPECT_EQ(m.PakkaamoTulot, c.tulot);
         EXPECT_EQ(m.PakkaamoKäsitelty, c.käsiteltyJälkeen);
-        EXPECT_EQ(r.kpl, 0);
         EXPECT_EQ(r.Yhthinta, 0);
         EXPECT_EQ(r.varasto[Maito], 0);
     }
-}
-
-TEST_F(Tuotepeli, SellingAllFeedPaysTheSilosContentAndLeavesThePlantOut) {
+    // Feed goes by the silo's content, leaves the plant out and draws the card anew.
     Hinta(Rehu, 4, 1);
     m.Var[Rehu] = 200;
-    m.PakkaamoMax = 1000;
+    m.Raha = 0;
     AvaaTuote(t.peli, Rehu);
     MyyKaikki(t.peli);
     EXPECT_EQ(m.Raha, 1000);
     EXPECT_EQ(m.Tulo[Rehu], 1000);
-    EXPECT_EQ(m.Liikevaihto, 1000);
-    EXPECT_EQ(m.Var[Rehu], 0);
-    EXPECT_EQ(m.PakkaamoKäsitelty, 0);
-    EXPECT_EQ(r.Yhthinta, 5000) << "the card is drawn anew: the cost of a full silo";
+    EXPECT_EQ(m.PakkaamoKäsitelty, 100);
+    EXPECT_EQ(r.Yhthinta, 5000) << "the cost of a full silo";
 }
 
 TEST_F(Tuotepeli, SellingHalfTruncatesAndFillsThePlantWithoutPay) {
@@ -166,15 +150,11 @@ TEST_F(Tuotepeli, SellingHalfTruncatesAndFillsThePlantWithoutPay) {
 TEST_F(Tuotepeli, BuyingFeedFillsTheSiloOrBuysWhatTheCashCovers) {
     t.peli.asetukset.Äänitehosteet = true;
     struct Tapaus {
-        const char* nimi;
-        Tuote kortti;
-        float raha, varasto;
-        float rahaJälkeen, varastoJälkeen, liikevaihto;
+        const char* nimi; Tuote kortti; float raha, varasto, rahaJälkeen, varastoJälkeen, liikevaihto;
         std::vector<std::string> tapahtumat;
     };
     const std::vector<Tapaus> tapaukset{
         {"full silo bought", Rehu, 10000, 500, 8000, 1000, -2000, {"ÄÄNI|klik2"}},
-        {"exactly enough", Rehu, 2000, 500, 0, 1000, -2000, {"ÄÄNI|klik2"}},
         {"part of the silo", Rehu, 10, 0, 0, 2, -2, {"ÄÄNI|klik2"}},
         {"not one kilo", Rehu, 3, 0, 3, 0, 0,
          {"ÄÄNI|virhe", "VIESTI|0|Rahatilanteesi on  3. Sinulla ei ole varaa|vastattu"}},
@@ -190,8 +170,7 @@ TEST_F(Tuotepeli, BuyingFeedFillsTheSiloOrBuysWhatTheCashCovers) {
         m.Var[Maito] = 5;
         m.Raha = c.raha;
         m.Var[Rehu] = c.varasto;
-        m.Liikevaihto = 0;
-        m.Tulo[Rehu] = 0;
+        m.Liikevaihto = m.Tulo[Rehu] = 0;
         AvaaTuote(t.peli, c.kortti);
         t.Tapahtumat();
         t.peli.arvonta.TyhjennäJono();
@@ -214,19 +193,9 @@ TEST_F(Tuotepeli, BuyingFeedOnACardOpenedBeforeTheSiloFilledUp) {
     m.Var[Rehu] = 1000;
     t.Tapahtumat();
     OstaRehua(t.peli);
-    const std::vector<std::string> odotettu{"ÄÄNI|virhe", "LAATIKKO|Normaali osto",
-                                            "VIESTI|0|Sinulla ei ole tilaa siilossa|vastattu"};
-    EXPECT_EQ(t.Tapahtumat(), odotettu);
+    EXPECT_EQ(t.Tapahtumat(), (std::vector<std::string>{"ÄÄNI|virhe", "LAATIKKO|Normaali osto",
+                                                        "VIESTI|0|Sinulla ei ole tilaa siilossa|vastattu"}));
     EXPECT_EQ(m.Raha, 10000);
-
-    // After a purchase the card's total is 0 and a second press does nothing.
-    m.Var[Rehu] = 0;
-    AvaaTuote(t.peli, Rehu);
-    OstaRehua(t.peli);
-    EXPECT_EQ(m.Raha, 6000);
-    EXPECT_EQ(r.Yhthinta, 0);
-    OstaRehua(t.peli);
-    EXPECT_EQ(m.Raha, 6000);
 }
 
 struct Automyynti : Tuotepeli {
@@ -244,13 +213,11 @@ struct Automyynti : Tuotepeli {
 TEST_F(Automyynti, StylesRoundToEvenAndTheLastUnitGoes) {
     struct Tapaus { Tuote k; const char* tyyli; const char* kausi; int perus; float varasto; float raha, jää; };
     for (const Tapaus& c : {
-             Tapaus{Maito, "Kaikki", "Kevät", 5, 10, 50, 0},
              Tapaus{Maito, "Puolet", "Kevät", 3, 5, 7, 3},    // 15 \ 2; Round(2.5) = 2 units go
              Tapaus{Maito, "Puolet", "Kevät", 3, 3, 4, 0},    // Round(1.5) = 2 go, the last one follows
              Tapaus{Maito, "Puolet", "Kevät", 3, 1, 1, 0},    // Round(0.5) = 0, the last one follows
              Tapaus{Viini, "Puolet", "Kevät", 2, 1, 2, 1},    // (2 + 2) \ 2; the last bottle stays
              Tapaus{Turkki, "Puolet", "Kevät", 10, 7, 35, 4}, // furs: Int(3.5) = 3 go
-             Tapaus{Turkki, "Puolet", "Kevät", 10, 1, 5, 0},
              Tapaus{Muna, "Kaikki", "Kevät", 1, 2.5f, 2, 0},  // CLng(2.5) = 2; Round(2.5) = 2, the half follows
              Tapaus{Villa, "Kaikki", "Kesä", 4, 10, 20, 0},
              Tapaus{Villa, "Kaikki", "Talvi", 4, 10, 60, 0},
@@ -260,9 +227,7 @@ TEST_F(Automyynti, StylesRoundToEvenAndTheLastUnitGoes) {
         m.Vuodenaika = c.kausi;
         Hinta(c.k, c.perus, 0);
         m.Var[c.k] = c.varasto;
-        m.Raha = 0;
-        m.Liikevaihto = 0;
-        m.Tulo[c.k] = 0;
+        m.Raha = m.Liikevaihto = m.Tulo[c.k] = 0;
         Myy(c.k, c.tyyli);
         AutoMyynti(t.peli);
         const std::string nimi = std::string(TUOTETAULU[c.k].avain) + " " + c.tyyli + " " + std::to_string(c.varasto);
@@ -271,20 +236,6 @@ TEST_F(Automyynti, StylesRoundToEvenAndTheLastUnitGoes) {
         EXPECT_EQ(m.Tulo[c.k], c.raha) << nimi;
         EXPECT_EQ(m.Var[c.k], c.jää) << nimi;
     }
-}
-
-TEST_F(Automyynti, NothingWithoutAnAccountant) {
-    m.Työ[Kirjanpitäjä] = 0;
-    Hinta(Maito, 5, 0);
-    Hinta(Rehu, 4, 0);
-    m.Var[Maito] = 10;
-    m.Raha = 100000;
-    Myy(Maito, "Kaikki");
-    m.Tuotteet.Myy[Rehu] = 1;
-    AutoMyynti(t.peli);
-    EXPECT_EQ(m.Var[Maito], 10);
-    EXPECT_EQ(m.Var[Rehu], 0);
-    EXPECT_EQ(m.Raha, 100000);
 }
 
 TEST_F(Automyynti, EggsComeFirstToThePackingPlantAndOnlyWithAWarehouseWorker) {
@@ -296,8 +247,7 @@ TEST_F(Automyynti, EggsComeFirstToThePackingPlantAndOnlyWithAWarehouseWorker) {
         m.Var[Muna] = 10;
         m.Var[Maito] = 10;
         m.PakkaamoMax = 1;
-        m.PakkaamoKäsitelty = 0;
-        m.PakkaamoTulot = 0;
+        m.PakkaamoKäsitelty = m.PakkaamoTulot = 0;
         Myy(Maito, "Kaikki");
         Myy(Muna, "Kaikki");
         AutoMyynti(t.peli);
@@ -307,15 +257,19 @@ TEST_F(Automyynti, EggsComeFirstToThePackingPlantAndOnlyWithAWarehouseWorker) {
 }
 
 TEST_F(Automyynti, TheSiloIsToppedUpAfterTheSales) {
-    struct Tapaus { const char* nimi; float raha; float maito; float varasto; float rahaJälkeen, varastoJälkeen, liikevaihto; };
-    for (const Tapaus& c : {Tapaus{"full", 10000, 0, 500, 8000, 1000, -2000},
-                            Tapaus{"exactly enough", 2000, 0, 500, 0, 1000, -2000},
+    struct Tapaus {
+        const char* nimi; float raha; float maito; float varasto; float rahaJälkeen, varastoJälkeen, liikevaihto;
+        long kirjanpitäjiä = 1;
+    };
+    for (const Tapaus& c : {Tapaus{"no accountant: nothing sold or bought", 100, 10, 0, 100, 0, 0, 0},
+                            Tapaus{"full", 10000, 0, 500, 8000, 1000, -2000},
                             Tapaus{"part", 10, 0, 0, 0, 2, -2},
                             Tapaus{"from the day's sale", 0, 10, 0, 0, 12, 38},  // 50 from milk, then 12 kilos
                             Tapaus{"under one", 0.5f, 0, 0, 0.5f, 0, 0},
                             Tapaus{"in debt", -100, 0, 0, -100, 0, 0},
                             Tapaus{"silo full", 100, 0, 1000, 100, 1000, 0}}) {
         m.Tuotteet.Myy.fill(0);
+        m.Työ[Kirjanpitäjä] = c.kirjanpitäjiä;
         Hinta(Rehu, 4, 0);
         Hinta(Maito, 5, 0);
         m.Var[Maito] = c.maito;
@@ -357,12 +311,10 @@ TEST_F(Tuotepeli, OpeningTheScreenSetsPricesStocksAndLooksForThePictures) {
 TEST_F(Tuotepeli, PointerLabelsAndTheAccountantsPanel) {
     m.OhjeetPäällä = true;
     struct Tapaus { TuoteKohde kohde; int k; const char* aihe; const char* ohjeAlku; };
-    for (const Tapaus& c : {Tapaus{TuoteKohde::Kuva, Muna, "Tuotteet : Kananmuna", "Valitse tuotteista"},
-                            Tapaus{TuoteKohde::Kuva, Turkki, "Tuotteet : Turkikset", "Valitse tuotteista"},
-                            Tapaus{TuoteKohde::Kuva, Lanta, "Tuotteet : Lanta", "Valitse tuotteista"},
-                            Tapaus{TuoteKohde::KirjanpitäjäKuva, -1, "Kirjanpitäjän toimet", "Kirjanpitäjäsi voi"},
-                            Tapaus{TuoteKohde::Command6, -1, "Kirjanpitäjän toimet", "Tämä valikko myy vain puolet"},
-                            Tapaus{TuoteKohde::Ruutu, -1, "Tuotteet : ", "Tämä valikko myy vain puolet"}}) {
+    for (const Tapaus& c : {Tapaus{TuoteKohde::Kuva, Turkki, "Tuotteet : Turkikset", "Valitse tuotteista"},
+                            {TuoteKohde::KirjanpitäjäKuva, -1, "Kirjanpitäjän toimet", "Kirjanpitäjäsi voi"},
+                            {TuoteKohde::Command6, -1, "Kirjanpitäjän toimet", "Tämä valikko myy vain puolet"},
+                            {TuoteKohde::Ruutu, -1, "Tuotteet : ", "Tämä valikko myy vain puolet"}}) {
         OsoitinTuoteruudulla(t.peli, c.kohde, c.k);
         EXPECT_EQ(r.aihe, c.aihe);
         EXPECT_EQ(r.ohje.rfind(c.ohjeAlku, 0), 0u) << r.ohje;
@@ -371,54 +323,31 @@ TEST_F(Tuotepeli, PointerLabelsAndTheAccountantsPanel) {
     EXPECT_FALSE(r.taulu) << "the picture is hidden without an accountant";
     r.kirjanpitäjäKuva = true;
     KirjanpitäjäKuva(t.peli);
-    EXPECT_TRUE(r.taulu);
     AvaaTuote(t.peli, Maito);
-    TuotteetEsc(t.peli);
-    EXPECT_FALSE(r.taulu);
-    EXPECT_FALSE(r.akkuna);
+    EXPECT_FALSE(TuotteetEsc(t.peli)) << "Esc hides the card and the panel first";
+    EXPECT_FALSE(r.taulu || r.akkuna);
+    EXPECT_TRUE(TuotteetEsc(t.peli));
     KäännäTyyli(t.peli, Maito);
     EXPECT_EQ(m.Tuotteet.MyyTyyli[Maito], "Puolet");
-    KäännäTyyli(t.peli, Maito);
-    EXPECT_EQ(m.Tuotteet.MyyTyyli[Maito], "Kaikki");
 }
 
 // The runner refuses what is malformed, and skips a press the player couldn't make before it
-// changes anything: the card waits for the screen, "Osta" for the feed card, the settings for the panel.
+// changes anything: the card waits for the screen, "Osta" for the feed card.
 TEST(TuotteetAjurissa, MalformedLinesStopAndImpossiblePressesAreSkipped) {
     testi::Väliaikainen kansio;
     Ajuri ajuri(Kansiot{kansio.polku() / "ohjelma", kansio.polku() / "Data"});
     std::ostringstream ulos;
     ajuri.Rivi("new A Vapaa 1 on", ulos);
     ajuri.Rivi("set Var_Muna 10", ulos);
-    for (const char* rivi : {"call Tuotteet.MyyKaikki Kala", "call Tuotteet.AvaaTuote Maitoa",
-                             "call Tuotteet.Myy Maito kyllä", "call Eläimet.Osta Lehmä 5", "call Eläimet.Osta Lehmä"})
+    for (const char* rivi : {"call Tuotteet.MyyKaikki Kala", "call Tuotteet.Myy Maito kyllä", "call Eläimet.Osta Lehmä"})
         EXPECT_THROW(ajuri.Rivi(rivi, ulos), std::runtime_error) << rivi;
     struct Tapaus { const char* rivi; bool ohitetaan; };
-    const Tapaus tapaukset[] = {
-        {"call Tuotteet.MyyKaikki Kananmuna", true},  // the screen isn't open
-        {"call Tuotteet.Avaa", false},
-        {"call Tuotteet.MyyKaikki", true},           // no card
-        {"call Tuotteet.OstaRehua Kananmuna", true}, // "Osta" is disabled on the egg card
-        {"call Tuotteet.MyyKaikki Kananmuna", false},
-        {"call Tuotteet.KirjanpitäjäKuva", true},    // no accountant
-        {"call Tuotteet.Myy Muna 1", true},          // the panel is closed
-        {"call Tuotteet.Tuotelisäasetus 1", true},   // eggs have no further box
-        {"call Eläimet.Osta", true},                 // no card on the animal screen
-        {"call Eläimet.määräplus", true},
-        {"call Eläimet.Teuraskuva", true},           // no butcher
-        {"call Eläimet.TeurasRaja Lehmä 3", true},   // the butcher's panel is closed
-    };
-    for (const Tapaus& c : tapaukset) {
+    for (const Tapaus& c : {Tapaus{"call Tuotteet.MyyKaikki Kananmuna", true}, {"call Tuotteet.Avaa", false},
+                            {"call Tuotteet.OstaRehua Kananmuna", true}, {"call Tuotteet.MyyKaikki Kananmuna", false}}) {
         ajuri.kanavat().tapahtumat.clear();
-        const Muuttujat ennen = ajuri.peli().m;
         ajuri.Rivi(c.rivi, ulos);
         const auto& e = ajuri.kanavat().tapahtumat;
-        const bool ohitettu = !e.empty() && e.back().rfind("OHITETTU|", 0) == 0;
-        EXPECT_EQ(ohitettu, c.ohitetaan) << c.rivi;
-        if (ohitettu) {
-            EXPECT_EQ(e.size(), 1u) << c.rivi;
-            EXPECT_EQ(ajuri.peli().m.Var, ennen.Var) << c.rivi;
-        }
+        EXPECT_EQ(!e.empty() && e.back().rfind("OHITETTU|", 0) == 0, c.ohitetaan) << c.rivi;
     }
     EXPECT_EQ(ajuri.peli().m.Var[Muna], 0);
 }
