@@ -13,7 +13,7 @@ using testi::Jonoon;
 using testi::Lauma;
 
 TEST(Hygiene, CleanersAgainstHeads) {
-    struct Tapaus { long lehmiä, kanoja, vasikoita, siivoojia; int taso, moti; bool ylityö, linjasto; int odotettu; };
+    struct Tapaus { Long lehmiä, kanoja, vasikoita, siivoojia; int taso, moti; bool ylityö, linjasto; int odotettu; };
     const Tapaus tapaukset[] = {
         {0, 0, 0, 5, 1, 0, false, false, 100},    // an empty barn is clean whatever the staff
         {10, 0, 0, 0, 0, 0, false, false, 0},
@@ -27,9 +27,8 @@ TEST(Hygiene, CleanersAgainstHeads) {
     };
     for (const Tapaus& c : tapaukset) {
         Lauma t;
-        t.m.El[Nauta][Naaras] = c.lehmiä;
+        t.m.El[Nauta] = {c.lehmiä, 0, c.vasikoita, 0};
         t.m.El[Kana][Naaras] = c.kanoja;
-        t.m.El[Nauta][Poikanen] = c.vasikoita;
         t.m.Työ[Siivooja] = c.siivoojia;
         t.m.Vaikeustaso = static_cast<Byte>(c.taso);
         t.m.Moti[Siivooja] = static_cast<Integer>(c.moti);
@@ -43,7 +42,7 @@ TEST(Hygiene, CleanersAgainstHeads) {
 
 TEST(Hygiene, OvertimeIsPaidWithWholeDivisionAndAnOverflowKeepsTheOldFigure) {
     // 3190 \ 30 = 106 and 3190 \ 200 = 15: the division cuts, it doesn't round.
-    struct Tapaus { long päitä; bool ylityö, viikonloppu; double odotettu; };
+    struct Tapaus { Long päitä; bool ylityö, viikonloppu; double odotettu; };
     for (const Tapaus& c : {Tapaus{10, true, true, 106}, {10, true, false, 15}, {0, true, true, 0}}) {
         Lauma t;
         t.m.El[Sika][Naaras] = c.päitä;
@@ -101,7 +100,7 @@ TEST(Output, EachKindDrawsInItsOrderWithItsPasses) {
 }
 
 TEST(Output, SuppliesAddOneAPassAndLowHygieneCutsTheDraw) {
-    struct Tapaus { Tuote tuote; Laji laji; Luokka luokka; long päitä; Tarvike tarvike; int hygienia; double r, odotettu; };
+    struct Tapaus { Tuote tuote; Laji laji; Luokka luokka; Long päitä; Tarvike tarvike; int hygienia; double r, odotettu; };
     const Tapaus tapaukset[] = {
         {Maito, Nauta, Naaras, 2, Lypsykone, 100, 0.0, 8},    // (3 + 1) × 2
         {Maito, Nauta, Naaras, 2, Lypsykone, 0, 0.99, 10},    // H 0.5: 3 + Int(1.98) + 1 = 5 a cow
@@ -121,14 +120,14 @@ TEST(Output, SuppliesAddOneAPassAndLowHygieneCutsTheDraw) {
 }
 
 TEST(Pasture, LoadIsHeldBetweenFortyAndNinetyThenMovedBySeason) {
-    struct Tapaus { double laidun; long lehmiä; const char* vuodenaika; double odotettu; };
+    struct Tapaus { double laidun; Long lehmiä; const char* vuodenaika; double odotettu; };
     const Tapaus tapaukset[] = {
         {0, 5, "Kesä", 1.0},  {1, 5, "Kesä", 0.5},  {1, 9, "Kesä", 0.9},  // exactly 90 stays
         {1, 4, "Kesä", 0.4},  {1, 0, "Kesä", 0.4},                        // 40 stays; no grazers load 0
         {1, 5, "Kevät", 0.6}, {1, 12, "Kevät", 1.0}, {1, 5, "Talvi", 1.0},  // winter ignores the land
     };
+    Lauma t;
     for (const Tapaus& c : tapaukset) {
-        Lauma t;
         t.m.Laidun = static_cast<Single>(c.laidun);
         t.m.El[Nauta][Naaras] = c.lehmiä;
         t.m.Vuodenaika = c.vuodenaika;

@@ -46,7 +46,7 @@ TEST(Ageing, OneYoungInFourBecomesAMaleDrawnSpeciesBySpeciesAndTheChartCountsThe
     Jonoon(t, {0.0, 0.25, 0.9, 0.9, 0.24});  // hen, sheep, pig, fox, cattle: below 0.25 a male
     Vanhentuminen(t.peli);
     EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
-    struct Tapaus { Laji laji; long naaraita, uroksia; };
+    struct Tapaus { Laji laji; Long naaraita, uroksia; };
     for (const Tapaus& c : {Tapaus{Kana, 6, 1}, {Lammas, 2, 0}, {Sika, 2, 0}, {Nauta, 1, 1}, {Hevonen, 1, 0}}) {
         EXPECT_EQ(t.m.El[c.laji][Naaras], c.naaraita) << LAJITAULU[c.laji].laji;
         EXPECT_EQ(t.m.El[c.laji][Uros], c.uroksia) << LAJITAULU[c.laji].laji;
@@ -64,7 +64,7 @@ void Lisäänny(Lauma& t, const std::array<double, 6>& kertoimet, const std::arr
 }
 
 TEST(Breeding, CattleOddsWithTheInseminatorAndTheHerdsSize) {
-    struct Tapaus { long lehmiä; long siementäjiä; int moti; int k; bool poikii; };
+    struct Tapaus { Long lehmiä; Long siementäjiä; int moti; int k; bool poikii; };
     // The cattle's draw gives Int(r × 11) = k; a calf comes when k <= 1 + bonus + cows \ 100.
     const Tapaus tapaukset[] = {
         {1, 0, 0, 1, true},   {1, 0, 0, 2, false},   {1, 1, 0, 2, true},   {1, 1, 0, 3, false},  // Int(0.3) + 1 = 1
@@ -73,8 +73,7 @@ TEST(Breeding, CattleOddsWithTheInseminatorAndTheHerdsSize) {
     };
     for (const Tapaus& c : tapaukset) {
         Lauma t;
-        t.m.El[Nauta][Naaras] = c.lehmiä;
-        t.m.El[Nauta][Uros] = 1;
+        t.m.El[Nauta] = {c.lehmiä, 0, 0, 1};
         t.m.Työ[Siementäjä] = c.siementäjiä;
         t.m.Moti[Siementäjä] = static_cast<Integer>(c.moti);
         Lisäänny(t, {0.99, 0.99, 0.99, 0.99, (c.k + 0.5) / 11, 0.99}, {0.99, 0.99, 0.99, 0.99});
@@ -84,7 +83,7 @@ TEST(Breeding, CattleOddsWithTheInseminatorAndTheHerdsSize) {
 }
 
 TEST(Breeding, TheRoomTestIsStrictAndTheFullBarnIsTold) {
-    struct Tapaus { float navetta; long sonneja; long siementäjiä; long vasikoita; long poikasia; bool viesti; };
+    struct Tapaus { float navetta; Long sonneja; Long siementäjiä; Long vasikoita; Long poikasia; bool viesti; };
     // One cow and her calf-to-be; the cattle's draw always wins.
     // 3 is not above 2 + 1, but the barn isn't full; 2 is not above the heads: full. With no male and no
     // inseminator there are no births and no word; the inseminator stands in for the bull; the young take room.
@@ -95,10 +94,8 @@ TEST(Breeding, TheRoomTestIsStrictAndTheFullBarnIsTold) {
     for (const Tapaus& c : tapaukset) {
         Lauma t;
         t.m.Koko_Navetta = c.navetta;
-        t.m.El[Nauta][Naaras] = 1;
+        t.m.El[Nauta] = {1, c.vasikoita, 0, c.sonneja};
         t.m.El[Sika][Naaras] = c.sonneja == 0 ? 1 : 0;  // a sow in the bull's place keeps two heads
-        t.m.El[Nauta][Uros] = c.sonneja;
-        t.m.El[Nauta][Nuori] = c.vasikoita;
         t.m.Työ[Siementäjä] = c.siementäjiä;
         Lisäänny(t, {0.99, 0.99, 0.99, 0.99, 0.0, 0.99}, {0.99, 0.99, 0.99, 0.99});
         EXPECT_EQ(t.m.El[Nauta][Poikanen], c.poikasia) << c.navetta << " " << c.sonneja << " " << c.siementäjiä;
@@ -110,8 +107,7 @@ TEST(Breeding, TheRoomTestIsStrictAndTheFullBarnIsTold) {
 TEST(Breeding, EachSpeciesNeedsItsOwnPairAndSpeciesShareTheLastPlaces) {
     Lauma t;
     auto& el = t.m.El;
-    el[Nauta][Naaras] = el[Nauta][Uros] = 1;
-    el[Hevonen][Naaras] = el[Hevonen][Uros] = 1;
+    el[Nauta] = el[Hevonen] = {1, 0, 0, 1};
     el[Lammas][Naaras] = 1;  // no ram: the bull doesn't serve the ewes
     el[Sika][Uros] = 1;      // a boar without a sow
     t.m.Koko_Navetta = 8;    // 6 heads: each birth alone fits, and both are let in

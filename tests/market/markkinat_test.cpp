@@ -1,8 +1,9 @@
-// The market's monthly step, the first walk of a new farm and the bank's market report.
+// The market's monthly step, the first walk of a new farm, the bank's market report and the base prices.
 #include <gtest/gtest.h>
 
 #include <map>
 
+#include "core/perushinnat.h"
 #include "market/markkinat.h"
 #include "market/taulut/pörssi.h"
 #include "tuki/testipeli.h"
@@ -62,54 +63,8 @@ TEST_F(Markkinapeli, WalkRoundsToEvenWithOneDrawForEachIndexInOrder) {
     EXPECT_TRUE(t.Tapahtumat().empty());
 }
 
-TEST_F(Markkinapeli, AnIndexAboveItsLimitCrashesToZero) {
-    struct Tapaus { Tuote k; int ennen; int jälkeen; };
-    for (const Tapaus& c : {Tapaus{Maito, 5, 5}, {Maito, 6, 0}, {Turkki, 150, 150}, {Turkki, 151, 0},
-                            {Lauta, 26, 0}, {Vaate, 20, 20}, {Hunaja, 11, 0}, {Viini, 13, 13}}) {
-        t.m.Kurssi.fill(0);
-        t.m.Kurssi[c.k] = static_cast<Integer>(c.ennen);
-        JonoonKävely(t);
-        t.peli.arvonta.Jonoon(0.5);  // a story's draw, left alone when nothing crashed that is held
-        Markkinat(t.peli);
-        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.ennen;
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);
-        t.peli.arvonta.TyhjennäJono();
-    }
-    struct MaaTapaus { Maa maa; long ennen; long jälkeen; };
-    for (const MaaTapaus& c : {MaaTapaus{MaaPelto, 5000, 5000}, {MaaPelto, 5001, 0}, {MaaJoutomaa, 2501, 0}}) {
-        t.m.MaaKurssi.fill(0);
-        t.m.MaaKurssi[c.maa] = c.ennen;
-        JonoonKävely(t);
-        Markkinat(t.peli);
-        EXPECT_EQ(t.m.MaaKurssi[c.maa], c.jälkeen) << MAATAULU[c.maa].avain << " " << c.ennen;
-    }
-    // Nothing was held, so nothing was told.
-    EXPECT_TRUE(t.Tapahtumat().empty());
-}
-
-TEST_F(Markkinapeli, FeedIsHeldDownBefore1983AndCrashesSilentlyAfter) {
-    struct Tapaus { int vuosi; int ennen; int jälkeen; };
-    for (const Tapaus& c : {Tapaus{1982, 3, 3}, Tapaus{1982, 4, 3}, Tapaus{1982, 9, 3}, Tapaus{1983, 4, 4},
-                            Tapaus{1983, 5, 5}, Tapaus{1983, 6, 0}}) {
-        t.m.Vuosi = static_cast<Integer>(c.vuosi);
-        t.m.Var[Rehu] = 5000;
-        t.m.Kurssi[Rehu] = static_cast<Integer>(c.ennen);
-        JonoonKävely(t);
-        Markkinat(t.peli);
-        EXPECT_EQ(t.m.Kurssi[Rehu], c.jälkeen) << c.vuosi << " " << c.ennen;
-        EXPECT_TRUE(t.Tapahtumat().empty()) << "feed never makes the news";
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
-    }
-}
-
 TEST_F(Markkinapeli, TheLastCrashInTheCheckOrderNamesTheNews) {
-    struct Tapaus {
-        std::map<Tuote, int> kurssit;
-        std::map<Tuote, float> varastot;
-        float laidun;
-        std::map<Maa, long> maakurssit;
-        std::string sana;
-    };
+    struct Tapaus { std::map<Tuote, int> kurssit; std::map<Tuote, float> varastot; float laidun; std::map<Maa, long> maakurssit; std::string sana; };
     const std::vector<Tapaus> tapaukset{
         // Milk held, meat not: meat still names the news.
         {{{Maito, 6}, {Liha, 9}}, {{Maito, 10}}, 0, {}, "Lihan"},
@@ -165,31 +120,40 @@ TEST_F(Markkinapeli, TheStoryDrawPicksOneOfFive) {
     }
 }
 
-TEST(Markkinat, LowerBoundsSendAnIndexBackToZeroOrFeedToOne) {
+TEST(Markkinat, CrashesAboveTheLimitBoundsBelowAndFeedHeldDownBefore1983) {
     testi::Testipeli t;
     t.Aloita("Testi", 2);  // the hardest level: manure's base price 1, feed's 5, waste land's 7000
-    ASSERT_EQ(t.m.PerusHinta[Lanta], 1);
-    ASSERT_EQ(t.m.PerusHinta[Rehu], 5);
-    ASSERT_EQ(t.m.PerusMaa[MaaJoutomaa], 7000);
     t.m.Var.fill(0);
-    struct Tapaus { Tuote k; int ennen; int jälkeen; };
-    for (const Tapaus& c : {Tapaus{Lanta, -2, 0}, {Lanta, -1, -1}, {Turkki, -100, -100}, {Turkki, -101, 0},
-                            {Vaate, -21, 0}, {Makkara, -6, -6}, {Rehu, -4, -4}, {Rehu, -5, 1}, {Rehu, -9, 1}}) {
+    t.m.Var[Rehu] = 5000;  // feed is held, but never makes the news
+    struct Tapaus { Tuote k; int vuosi, ennen, jälkeen; };
+    for (const Tapaus& c : {
+             Tapaus{Maito, 1984, 5, 5}, {Maito, 1984, 6, 0}, {Turkki, 1984, 150, 150}, {Turkki, 1984, 151, 0},
+             {Lauta, 1984, 26, 0}, {Vaate, 1984, 20, 20}, {Hunaja, 1984, 11, 0}, {Viini, 1984, 13, 13},
+             {Rehu, 1982, 4, 3}, {Rehu, 1982, 9, 3}, {Rehu, 1983, 5, 5}, {Rehu, 1983, 6, 0},  // feed's own rule
+             // Lower bounds: a price below 0, an index below its bound, a feed price below 1.
+             {Lanta, 1984, -2, 0}, {Lanta, 1984, -1, -1}, {Turkki, 1984, -100, -100}, {Turkki, 1984, -101, 0},
+             {Vaate, 1984, -21, 0}, {Makkara, 1984, -6, -6}, {Rehu, 1984, -4, -4}, {Rehu, 1984, -5, 1}}) {
         t.m.Kurssi.fill(0);
+        t.m.Vuosi = static_cast<Integer>(c.vuosi);
         t.m.Kurssi[c.k] = static_cast<Integer>(c.ennen);
         t.peli.arvonta.TyhjennäJono();
         JonoonKävely(t);
+        t.peli.arvonta.Jonoon(0.5);  // a story's draw, left alone when nothing held crashed
         Markkinat(t.peli);
-        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.ennen;
+        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.vuosi << " " << c.ennen;
+        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);
     }
-    struct MaaTapaus { Maa maa; long ennen; long jälkeen; };
-    for (const MaaTapaus& c : {MaaTapaus{MaaJoutomaa, -3001, 0}, {MaaJoutomaa, -3000, -3000}, {MaaLaidun, -4001, 0}}) {
+    struct MaaTapaus { Maa maa; long ennen, jälkeen; };
+    for (const MaaTapaus& c : {MaaTapaus{MaaPelto, 5000, 5000}, {MaaPelto, 5001, 0}, {MaaJoutomaa, 2501, 0},
+                               {MaaJoutomaa, -3001, 0}, {MaaJoutomaa, -3000, -3000}, {MaaLaidun, -4001, 0}}) {
         t.m.MaaKurssi.fill(0);
         t.m.MaaKurssi[c.maa] = c.ennen;
+        t.peli.arvonta.TyhjennäJono();
         JonoonKävely(t);
         Markkinat(t.peli);
         EXPECT_EQ(t.m.MaaKurssi[c.maa], c.jälkeen) << MAATAULU[c.maa].avain << " " << c.ennen;
     }
+    EXPECT_TRUE(t.Tapahtumat().empty());
 }
 
 TEST(Markkinat, FirstWalkStartsFromZeroWithWiderStepsAndLeavesPastureOut) {
@@ -201,13 +165,9 @@ TEST(Markkinat, FirstWalkStartsFromZeroWithWiderStepsAndLeavesPastureOut) {
     EnsimmäinenKurssi(t.peli);
     EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u) << "23 draws: pasture land takes none";
     struct Tapaus { Tuote k; int odotettu; };
-    for (const Tapaus& c : {Tapaus{Maito, 1}, Tapaus{Liha, 2}, Tapaus{Turkki, 16}, Tapaus{Vaate, 7},
-                            Tapaus{Leivos, 3}, Tapaus{Leipä, 4}, Tapaus{Jauho, 3}, Tapaus{Makkara, 4}})
+    for (const Tapaus& c : {Tapaus{Maito, 1}, {Liha, 2}, {Turkki, 16}, {Vaate, 7}, {Leivos, 3}, {Leipä, 4}, {Makkara, 4}})
         EXPECT_EQ(t.m.Kurssi[c.k], c.odotettu) << TUOTETAULU[c.k].avain;
-    EXPECT_EQ(t.m.MaaKurssi[MaaPelto], 300);
-    EXPECT_EQ(t.m.MaaKurssi[MaaMetsä], 300);
-    EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], 150);
-    EXPECT_EQ(t.m.MaaKurssi[MaaLaidun], 0);
+    EXPECT_EQ(t.m.MaaKurssi, (std::array<Long, MAITA>{300, 300, 150, 0}));
     // In the walk's order: only the fur's draw (the fifth) is high.
     t.peli.arvonta.TyhjennäJono();
     for (int i = 0; i < 23; ++i) t.peli.arvonta.Jonoon(i == 4 ? 0.98 : 0.0);
@@ -236,6 +196,58 @@ TEST(PörssiRaportti, OutlookByTheAverageOverNineteen) {
         EXPECT_EQ(t.kanavat.raportit.at(0).fonttikoko, 10);
         EXPECT_FALSE(t.peli.näkymä.PankkiKäytössä) << "the bank waits for the page to close";
     }
+}
+
+TEST(PerusHinnat, ProductsGrowCheaperAndLandAndFeedDearerWithTheDifficulty) {
+    // Manure at the hardest level is worth a single mark; furs fall by ten a level, the pasture rises by 1500.
+    struct Tapaus { int taso; int lanta, rehu, turkki, leipä; long joutomaa, laidun; };
+    for (const Tapaus& c : {Tapaus{0, 3, 3, 1500, 34, 5000, 8000}, {2, 1, 5, 1480, 28, 7000, 11000}}) {
+        testi::Testipeli t;
+        t.Aloita("Testi", c.taso);
+        t.m.PerusHinta.fill(0);
+        PerusHinnat(t.peli);
+        EXPECT_EQ(t.m.PerusHinta[Lanta], c.lanta) << c.taso;
+        EXPECT_EQ(t.m.PerusHinta[Rehu], c.rehu) << c.taso;
+        EXPECT_EQ(t.m.PerusHinta[Turkki], c.turkki) << c.taso;
+        EXPECT_EQ(t.m.PerusHinta[Leipä], c.leipä) << c.taso;
+        EXPECT_EQ(t.m.PerusMaa[MaaJoutomaa], c.joutomaa) << c.taso;
+        EXPECT_EQ(t.m.PerusMaa[MaaLaidun], c.laidun) << c.taso;
+        EXPECT_FLOAT_EQ(t.m.Siemen[Rypsi], 0.35f);
+    }
+}
+
+TEST(PerusHinnat, EachSupplyRaisesItsOwnProductsOnly) {
+    struct Tapaus { Tarvike tarvike; std::map<Tuote, int> lisät; };
+    const Tapaus tapaukset[] = {
+        {Kutomakone, {{Vaate, 1}}},           {Teollisuusrukki, {{Villa, 1}}},
+        {Separointikone, {{Maito, 1}}},       {Pastörointikammio, {{Maito, 1}}},
+        {Kirnu, {{Juusto, 1}, {Maito, 1}}},   {Lantasäiliö, {{Lanta, 1}}},
+        {Teollisuusuuni, {{Leipä, 1}, {Leivos, 1}}},
+        {Kylmiö, {{Makkara, 2}, {Liha, 1}}},  {Käymissäiliö, {{Viini, 2}}},
+        {Turkiskuivaamo, {{Turkki, 100}}},    {Kaavintakone, {{Turkki, 50}}},
+        {Lypsykone, {}},  // a machine of the herd, no price
+    };
+    testi::Testipeli t;
+    t.Aloita("Testi", 1);
+    t.m.Tarv.fill(false);
+    PerusHinnat(t.peli);
+    const auto perus = t.m.PerusHinta;
+    for (const Tapaus& c : tapaukset) {
+        t.m.Tarv.fill(false);
+        t.m.Tarv[c.tarvike] = true;
+        PerusHinnat(t.peli);
+        for (std::size_t k = 0; k < TUOTTEITA; ++k) {
+            const auto it = c.lisät.find(static_cast<Tuote>(k));
+            EXPECT_EQ(t.m.PerusHinta[k], perus[k] + (it == c.lisät.end() ? 0 : it->second))
+                << c.tarvike << " " << TUOTETAULU[k].avain;
+        }
+    }
+    // All together milk takes three; a second run starts again from the table.
+    t.m.Tarv.fill(true);
+    PerusHinnat(t.peli);
+    PerusHinnat(t.peli);
+    EXPECT_EQ(t.m.PerusHinta[Maito], perus[Maito] + 3);
+    EXPECT_EQ(t.m.PerusHinta[Turkki], perus[Turkki] + 150);
 }
 
 }  // namespace
