@@ -232,6 +232,8 @@ QFrame* Eläimet::Teuraspaneeli(bool nylky) {
             connect(rajat_[raja], &QLineEdit::editingFinished, this, [this, raja] {
                 const std::string teksti = rajat_[raja]->text().toStdString();
                 ikkuna_.Toimi([this, raja, teksti] { TeurasRajaMuuttui(peli_, raja, teksti); });
+                // A refused text gives way to what the field holds.
+                rajat_[raja]->setText(QString::fromStdString(Lue(peli_, rajat_[raja]->objectName().toStdString()).arvo));
             });
         }
         ++rivi;
