@@ -13,11 +13,8 @@ struct Lauma : Testipeli {
         Aloita();
         m.El = {};
         m.Työ = {};
-        m.Ylityö = {};
-        m.Moti = {};
         m.Tarv = {};
         m.Var = {};
-        m.Syönti = {};
         m.Laidun = 0;
         m.Vuodenaika = "Kesä";
         m.Raha = 100000;
@@ -25,10 +22,10 @@ struct Lauma : Testipeli {
         m.Käyrät.Eläimiä.clear();
         peli.arvonta.TyhjennäJono();
     }
+    // Queues given draws.
+    void Jonoon(const std::vector<double>& arvot) {
+        for (double r : arvot) peli.arvonta.Jonoon(r);
+    }
 };
-
-inline void Jonoon(Testipeli& t, const std::vector<double>& arvot) {
-    for (double r : arvot) t.peli.arvonta.Jonoon(r);
-}
 
 }  // namespace tanhua::testi

@@ -10,11 +10,9 @@
 namespace tanhua {
 namespace {
 
-using testi::Jonoon;
 using testi::Lauma;
 
 TEST(Ageing, EachSpeciesGrowsUpInItsMonths) {
-    // hen, sheep, pig, fox, cattle, horse
     constexpr std::array<Laji, LAJEJA> lajit{Kana, Lammas, Sika, Kettu, Nauta, Hevonen};
     struct Tapaus { int kuukausi; std::array<Long, LAJEJA> vanhenee; };
     const Tapaus tapaukset[] = {
@@ -25,15 +23,13 @@ TEST(Ageing, EachSpeciesGrowsUpInItsMonths) {
         Lauma t;
         for (auto& laji : t.m.El) laji[Nuori] = laji[Poikanen] = 1;
         t.m.Kuukausi = static_cast<Byte>(c.kuukausi);
-        Jonoon(t, {0.0});
+        t.Jonoon({0.0});
         Vanhentuminen(t.peli);
         EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);  // a lone young draws nothing
-        for (std::size_t i = 0; i < lajit.size(); ++i) {
-            const auto& el = t.m.El[lajit[i]];
-            const char* kuka = LAJITAULU[lajit[i]].laji.data();
-            // A cub becomes young and a young an adult, in one step.
-            EXPECT_EQ(el, (std::array<Long, 4>{c.vanhenee[i], 1, 1 - c.vanhenee[i], 0})) << "month " << c.kuukausi << " " << kuka;
-        }
+        // A cub becomes young and a young an adult, in one step.
+        for (std::size_t i = 0; i < lajit.size(); ++i)
+            EXPECT_EQ(t.m.El[lajit[i]], (std::array<Long, 4>{c.vanhenee[i], 1, 1 - c.vanhenee[i], 0}))
+                << "month " << c.kuukausi << " " << LAJITAULU[lajit[i]].laji;
     }
 }
 
@@ -43,7 +39,7 @@ TEST(Ageing, OneYoungInFourBecomesAMaleDrawnSpeciesBySpeciesAndTheChartCountsThe
     for (auto& laji : t.m.El) laji[Nuori] = 2;
     t.m.El[Hevonen][Nuori] = 1;  // a lone young is always female, and draws nothing
     t.m.El[Kana][Naaras] = 5;
-    Jonoon(t, {0.0, 0.25, 0.9, 0.9, 0.24});  // hen, sheep, pig, fox, cattle: below 0.25 a male
+    t.Jonoon({0.0, 0.25, 0.9, 0.9, 0.24});  // hen, sheep, pig, fox, cattle: below 0.25 a male
     Vanhentuminen(t.peli);
     EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
     struct Tapaus { Laji laji; Long naaraita, uroksia; };
@@ -57,8 +53,8 @@ TEST(Ageing, OneYoungInFourBecomesAMaleDrawnSpeciesBySpeciesAndTheChartCountsThe
 // Breeding with the six odds draws (hen, sheep, pig, fox, cattle, horse) and the four litter
 // draws (hen, pig, fox, sheep) given.
 void Lisäänny(Lauma& t, const std::array<double, 6>& kertoimet, const std::array<double, 4>& pesueet) {
-    Jonoon(t, std::vector<double>(kertoimet.begin(), kertoimet.end()));
-    Jonoon(t, std::vector<double>(pesueet.begin(), pesueet.end()));
+    t.Jonoon(std::vector<double>(kertoimet.begin(), kertoimet.end()));
+    t.Jonoon(std::vector<double>(pesueet.begin(), pesueet.end()));
     Lisääntyminen(t.peli);
     EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
 }

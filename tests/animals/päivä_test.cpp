@@ -2,6 +2,7 @@
 // starvation, the welfare fine and the warnings.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 #include "animals/eläimet.h"
@@ -10,15 +11,13 @@
 namespace tanhua {
 namespace {
 
-using testi::Jonoon;
 using testi::Lauma;
 
 TEST(Hygiene, CleanersAgainstHeads) {
     struct Tapaus { Long lehmiä, kanoja, vasikoita, siivoojia; int taso, moti; bool ylityö, linjasto; int odotettu; };
     const Tapaus tapaukset[] = {
         {0, 0, 0, 5, 1, 0, false, false, 100},    // an empty barn is clean whatever the staff
-        {10, 0, 0, 0, 0, 0, false, false, 0},
-        {9, 0, 0, 0, 0, 0, false, true, 11},      // the feeding line adds one
+        {10, 0, 0, 0, 0, 0, false, false, 0}, {9, 0, 0, 0, 0, 0, false, true, 11},  // the feeding line adds one
         {11, 0, 0, 0, 0, 0, false, true, 0},      // the base never goes below 0
         {6, 2, 1, 0, 0, 0, false, false, 10},     // the young count like adults
         {21, 0, 0, 1, 0, 0, false, false, 100},   // one cleaner keeps 21 clean at the easiest level
@@ -51,7 +50,6 @@ TEST(Hygiene, OvertimeIsPaidWithWholeDivisionAndAnOverflowKeepsTheOldFigure) {
         t.m.Palkka[Siivooja] = 3190;
         t.m.Ylityö[Siivooja] = c.ylityö;
         t.m.Viikonloppu = c.viikonloppu;
-        t.m.YlityöPalkat = 0;
         EläintenKunto(t.peli);
         EXPECT_EQ(t.m.YlityöPalkat, c.odotettu);
     }
@@ -62,11 +60,9 @@ TEST(Hygiene, OvertimeIsPaidWithWholeDivisionAndAnOverflowKeepsTheOldFigure) {
         t.m.Työ[Siivooja] = 20;
         t.m.Ylityö[Siivooja] = t.m.Viikonloppu = true;
         t.m.Palkka[Siivooja] = 3000;
-        t.m.YlityöPalkat = 0;
         t.m.Hygienia = static_cast<Integer>(vanha);
         EläintenKunto(t.peli);
-        EXPECT_EQ(t.m.Hygienia, std::min(vanha, 100));
-        EXPECT_EQ(t.m.YlityöPalkat, 100);
+        EXPECT_EQ((std::array<double, 2>{1.0 * t.m.Hygienia, t.m.YlityöPalkat}), (std::array<double, 2>{std::min(vanha, 100) * 1.0, 100}));
         EXPECT_EQ(t.Tapahtumat(), std::vector<std::string>{"LAATIKKO|Vika hygienia tarkastuksessa"});
     }
 }
@@ -79,7 +75,7 @@ TEST(Output, EachKindDrawsInItsOrderWithItsPasses) {
     el[Lammas] = {1, 0, 0, 1};
     el[Kana] = {4, 0, 0, 3};
     el[Sika] = {1, 0, 0, 1};
-    Jonoon(t, {
+    t.Jonoon({
         0.5, 0.1,        // milk: 3 + Int(3.0) = 6, 3 + Int(0.6) = 3
         0.99,            // cow manure: Int(Int(2.97) × 0.5) = 1
         0.9,             // bull manure: Int(Int(1.35) × 0.5) = 0
@@ -105,8 +101,7 @@ TEST(Output, SuppliesAddOneAPassAndLowHygieneCutsTheDraw) {
     const Tapaus tapaukset[] = {
         {Maito, Nauta, Naaras, 2, Lypsykone, 100, 0.0, 8},    // (3 + 1) × 2
         {Maito, Nauta, Naaras, 2, Lypsykone, 0, 0.99, 10},    // H 0.5: 3 + Int(1.98) + 1 = 5 a cow
-        {Muna, Kana, Naaras, 2, UVValot, 100, 0.0, 3},        // three passes for two hens
-        {Muna, Kana, Naaras, 2, UVValot, 0, 0.99, 3},         // H 0.5: Int(0.99) = 0 an egg pass
+        {Muna, Kana, Naaras, 2, UVValot, 100, 0.0, 3}, {Muna, Kana, Naaras, 2, UVValot, 0, 0.99, 3},  // 3 passes; H 0.5: Int(0.99) = 0
         {Lanta, Sika, Uros, 1, Lantasäiliö, 0, 0.99, 2},      // (0 + 0.5) × 0.99 gives 0; the tank 1
     };
     for (const Tapaus& c : tapaukset) {
@@ -114,7 +109,7 @@ TEST(Output, SuppliesAddOneAPassAndLowHygieneCutsTheDraw) {
         t.m.El[c.laji][c.luokka] = c.päitä;
         t.m.Tarv[c.tarvike] = true;
         t.m.Hygienia = static_cast<Integer>(c.hygienia);
-        Jonoon(t, std::vector<double>(10, c.r));
+        t.Jonoon(std::vector<double>(10, c.r));
         EläintenTuotanto(t.peli);
         EXPECT_EQ(t.m.Var[c.tuote], c.odotettu) << TUOTETAULU[c.tuote].avain << " at hygiene " << c.hygienia;
     }
@@ -145,15 +140,14 @@ TEST(Feeding, EachKindEatsOnePassMoreThanItsHeads) {
         {Hevonen, Naaras, 1, 0, {0.34, 0.67}, 11, 89},     // (2 + 3) + (2 + 4)
         {Sika, Naaras, 1, 1, {0.5, 0.49}, 9, 91},          // pigs don't graze: (2 + 3) + (2 + 2)
         {Lammas, Naaras, 1, 1, {0.5, 0.0}, 4, 96},         // (1 + 0.4 × 3) + (1 + 0.4 × 2)
-        {Kettu, Uros, 1, 0, {0.99, 0.99}, 4, 96},
-        {Kana, Naaras, 3, 0, {}, 4, 96},                   // no draw: one a pass
+        {Kettu, Uros, 1, 0, {0.99, 0.99}, 4, 96}, {Kana, Naaras, 3, 0, {}, 4, 96},  // hens: no draw, one a pass
     };
     for (const Tapaus& c : tapaukset) {
         Lauma t;
         t.m.El[c.laji][c.luokka] = c.päitä;
         t.m.Laidun = c.laidun;
         t.m.Var[Rehu] = 100;
-        Jonoon(t, c.arvot);
+        t.Jonoon(c.arvot);
         Ruokinta(t.peli);
         EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u) << LAJITAULU[c.laji].laji << " " << c.luokka;
         EXPECT_EQ(t.m.Syönti[c.laji], c.syönti) << LAJITAULU[c.laji].laji << " " << c.luokka;
@@ -171,27 +165,10 @@ TEST(Feeding, TheMonthsCounterRoundsItsNewSumToEven) {
         t.m.Laidun = 1;
         t.m.Var[Rehu] = 100;
         t.m.Syönti[Nauta] = c.ennen;
-        Jonoon(t, {0.5, 0.0, 0.0, 0.0, 0.0, 0.0});
+        t.Jonoon({0.5, 0.0, 0.0, 0.0, 0.0, 0.0});
         Ruokinta(t.peli);
         EXPECT_EQ(t.m.Syönti[Nauta], c.jälkeen) << c.ennen;
         EXPECT_FLOAT_EQ(t.m.Var[Rehu], 75.5f) << c.ennen;
-    }
-}
-
-TEST(Feeding, StarvationNeedsLessThanOneKiloLeft) {
-    // Exactly 1 left: no test, no draws; 0.9 left or below zero: the hen dies and the silo is put back to 0.
-    struct Tapaus { float rehu; Long kanojaJälkeen; float rehuJälkeen; std::size_t arvontojaJäljellä; };
-    for (const Tapaus& c : {Tapaus{3.0f, 1, 1.0f, 12}, {2.9f, 0, 0.0f, 0}, {1.0f, 0, 0.0f, 0}}) {
-        Lauma t;
-        t.m.El[Kana][Naaras] = 1;
-        t.m.Hygienia = t.m.Vaikeustaso = 0;
-        t.m.Raha = 500;
-        t.m.Var[Rehu] = c.rehu;
-        Jonoon(t, std::vector<double>(12, 0.0));
-        Ruokinta(t.peli);
-        EXPECT_EQ(t.m.El[Kana][Naaras], c.kanojaJälkeen) << c.rehu;
-        EXPECT_FLOAT_EQ(t.m.Var[Rehu], c.rehuJälkeen) << c.rehu;
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), c.arvontojaJäljellä) << c.rehu;
     }
 }
 
@@ -210,23 +187,33 @@ TEST(Feeding, TheDaysNeedIsAWholeNumberRoundedToEven) {
     }
 }
 
-TEST(Feeding, WarningsByCashAndAutomaticPurchase) {
-    struct Tapaus { float rehu; float raha; int automaatti; Long kirjanpitäjiä; const char* rivi; };
-    // Two hens eat 3 and need 1 a day: the warning comes below 4 kilos.
-    for (const Tapaus& c : {Tapaus{6.5f, 10, 0, 0, "Rehua jäljellä 3.5 Kg!!"}, {7.0f, 10, 0, 0, nullptr},
-                            {6.5f, 0.5f, 1, 1, "Rehua jäljellä 3.5 Kg!!"},
-                            {6.5f, 0, 1, 1, "Rehua jäljellä 3.5 Kg ja rahat loppu!"},
-                            {6.5f, -5, 1, 0, "Rehua 3.5 Kg, Rehun automaattiostoon ei varaa!"},
-                            {6.5f, 0, 0, 1, "Rehua jäljellä 3.5 Kg eikä ole varaa ostaa lisää."}}) {
+TEST(Feeding, StarvationBelowOneKiloLeftAndTheWarningsByCashAndAutomaticPurchase) {
+    // Two hens eat 3 and need 1 a day: the warning comes below 4 kilos. With exactly 1 left nobody starves and
+    // no draw is taken; with 0.9 left a hen starves and the silo is put back to 0.
+    using E = std::vector<std::string>;
+    struct Tapaus { float rehu, raha; int automaatti; Long kirjanpitäjiä, kanojaJää; E rivit; };
+    const Tapaus tapaukset[] = {
+        {6.5f, 10, 0, 0, 2, {"LISTA|Rehua jäljellä 3.5 Kg!!"}}, {7.0f, 10, 0, 0, 2, {}},
+        {6.5f, 0.5f, 1, 1, 2, {"LISTA|Rehua jäljellä 3.5 Kg!!"}},
+        {6.5f, 0, 1, 1, 2, {"LISTA|Rehua jäljellä 3.5 Kg ja rahat loppu!"}},
+        {6.5f, -5, 1, 0, 2, {"LISTA|Rehua 3.5 Kg, Rehun automaattiostoon ei varaa!"}},
+        {6.5f, 0, 0, 1, 2, {"LISTA|Rehua jäljellä 3.5 Kg eikä ole varaa ostaa lisää."}},
+        {4.0f, 10, 0, 0, 2, {"LISTA|Rehua jäljellä 1 Kg!!"}},
+        {3.9f, 10, 0, 0, 1, {"LISTA|Kanojasi kuoli nälkään!", "LISTA|Rehua jäljellä 0 Kg!!"}},
+    };
+    for (const Tapaus& c : tapaukset) {
         Lauma t;
         t.m.El[Kana][Naaras] = 2;
+        t.m.Hygienia = t.m.Vaikeustaso = 0;
         t.m.Var[Rehu] = c.rehu;
         t.m.Raha = c.raha;
         t.m.Tuotteet.Myy[Rehu] = static_cast<Integer>(c.automaatti);
         t.m.Työ[Kirjanpitäjä] = c.kirjanpitäjiä;
+        t.Jonoon(std::vector<double>(12, 0.0));
         Ruokinta(t.peli);
-        EXPECT_EQ(t.Tapahtumat(), c.rivi ? std::vector<std::string>{std::string("LISTA|") + c.rivi}
-                                         : std::vector<std::string>{}) << c.rehu << " " << c.raha;
+        EXPECT_EQ(t.Tapahtumat(), c.rivit) << c.rehu << " " << c.raha;
+        EXPECT_EQ(t.m.El[Kana][Naaras], c.kanojaJää) << c.rehu;
+        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), c.kanojaJää == 2 ? 12u : 0u) << c.rehu;
     }
 }
 
@@ -244,9 +231,9 @@ TEST(Starvation, TheTestRoundsToEvenAgainstHygieneAndDifficulty) {
         t.m.Hygienia = static_cast<Integer>(c.hygienia);
         t.m.Vaikeustaso = static_cast<Byte>(c.taso);
         t.m.Raha = 0;
-        Jonoon(t, {c.r});
-        Jonoon(t, std::vector<double>(7, 0.99));
-        Jonoon(t, {c.r, 0.99, 0.99, 0.99});
+        t.Jonoon({c.r});
+        t.Jonoon(std::vector<double>(7, 0.99));
+        t.Jonoon({c.r, 0.99, 0.99, 0.99});
         Nälkäkuolemat(t.peli);
         EXPECT_EQ(t.m.El[Kana][Naaras], c.kuolee ? 2 : 3) << c.hygienia << " " << c.taso << " " << c.r;
         EXPECT_EQ(t.m.El[Nauta][Naaras], c.kuolee ? 2 : 3) << c.hygienia << " " << c.taso << " " << c.r;
@@ -259,7 +246,7 @@ TEST(Starvation, EachKindLosesOneHeadWithItsLine) {
     for (auto& laji : t.m.El) laji[Naaras] = laji[Uros] = 2;
     t.m.Hygienia = t.m.Vaikeustaso = 0;
     t.m.Raha = 0;
-    Jonoon(t, std::vector<double>(12, 0.0));
+    t.Jonoon(std::vector<double>(12, 0.0));
     Nälkäkuolemat(t.peli);
     for (const auto& laji : t.m.El) EXPECT_EQ(laji[Naaras] + laji[Uros], 2);
     EXPECT_EQ(t.Tapahtumat(), (std::vector<std::string>{
@@ -275,9 +262,9 @@ TEST(Starvation, TheWelfareFine) {
     // A hen dies at the first draw; then the fine's two draws: four days in five, and its size.
     struct Tapaus { Long kanoja; float raha; std::vector<double> arvot; float rahaJälkeen; std::size_t jäljellä; const char* sakko; };
     const Tapaus tapaukset[] = {
-        {1, 1000, {0.0, 0.5}, 1000, 2, nullptr},         // exactly 1000 is too little to fine
-        {1, 1001, {0.2, 0.5}, 1001, 1, nullptr},         // Int(1.0) is not 0
-        {0, 10000, {0.0, 0.5}, 10000, 2, nullptr},       // nobody died
+        // Exactly 1000 is too little to fine; Int(1.0) is not 0; nobody died.
+        {1, 1000, {0.0, 0.5}, 1000, 2, nullptr}, {1, 1001, {0.2, 0.5}, 1001, 1, nullptr},
+        {0, 10000, {0.0, 0.5}, 10000, 2, nullptr},
         {1, 10000, {0.19, 0.5}, 8999, 0, " 1001"},       // Round(2000 × 0.5) + 1
         {1, 10012.5f, {0.0, 0.9}, 8209.5f, 0, " 1803"},  // 2002.5 goes to 2002; 1801.8 to 1802
         {1, 10010, {0.0, 0.25}, 9509, 0, " 501"},        // 500.5 goes to 500
@@ -288,14 +275,13 @@ TEST(Starvation, TheWelfareFine) {
         t.m.El[Kana][Naaras] = c.kanoja;
         t.m.Hygienia = t.m.Vaikeustaso = 0;
         t.m.Raha = c.raha;
-        Jonoon(t, {0.0});
-        Jonoon(t, std::vector<double>(11, 0.99));
-        Jonoon(t, c.arvot);
+        t.Jonoon({0.0});
+        t.Jonoon(std::vector<double>(11, 0.99));
+        t.Jonoon(c.arvot);
         Nälkäkuolemat(t.peli);
         EXPECT_FLOAT_EQ(t.m.Raha, c.rahaJälkeen) << c.raha;
         EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), c.jäljellä) << c.raha;
-        std::vector<std::string> odotettu;
-        if (c.kanoja > 0) odotettu.push_back("LISTA|Kanojasi kuoli nälkään!");
+        std::vector<std::string> odotettu(c.kanoja, "LISTA|Kanojasi kuoli nälkään!");
         if (c.sakko)
             odotettu.insert(odotettu.end(), {std::string("LISTA|Eläinsuojeluvirasto sakotti ") + c.sakko,
                                              std::string("IKKUNA|Kuvat/sattumat/tuomari.jpg|Eläinsuojeluviranomaiset "
