@@ -79,7 +79,7 @@ inline constexpr std::string_view LISÄ_LAUTA = "Käytä lautoja hyödyksi, kun 
 // The heading of the accountant's panel.
 inline constexpr std::string_view TAULUN_OTSIKKO = "Kirjanpitäjän automaattinen myynti";
 
-// The slider's text of the time of the automatic sale, by Tuotteet.rulla.
+// The text beside the box of the time of the automatic sale, by Tuotteet.rulla.
 inline constexpr std::array<std::string_view, 2> MYYNTIAJAT{"joka kuukausi", "joka viikko"};
 
 }  // namespace tuoteruutu
