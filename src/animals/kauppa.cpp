@@ -2,10 +2,12 @@
 #include "kauppa.h"
 
 #include <array>
+#include <cmath>
 
 #include "../core/kanavat.h"
 #include "../core/peli.h"
 #include "../core/viestit.h"
+#include "../core/vikatila.h"
 #include "eläimet.h"
 
 namespace tanhua {
@@ -48,6 +50,11 @@ Long& KortinPäät(Muuttujat& m, int kortti) {
 
 std::uint32_t YlitettyRajaVäri() { return RGB(180, 100, 100); }
 
+namespace {
+// The panels' own colour, which an order's box shows until a purchase marks it.
+const std::uint32_t PANEELIN_VÄRI = RGB(255, 250, 235);
+}  // namespace
+
 void PäivitäEläinruutu(Peli& peli) {
     const Muuttujat& m = peli.m;
     EläinRuutuTila& r = peli.eläinruutu;
@@ -62,6 +69,7 @@ void PäivitäEläinruutu(Peli& peli) {
 
 void AvaaEläimet(Peli& peli) {
     EläinRuutuTila& r = peli.eläinruutu;
+    SoitaÄäni(peli, "klik");
     r.aihe = AIHE_RUUTU;
     r.kohdistin = -1;
     if (peli.m.OhjeetPäällä) r.ohje = OHJE_TERVETULOA;
@@ -115,6 +123,7 @@ void Osta(Peli& peli) {
     if (Int(r.yhtosto) > m.Raha) {
         const std::string hinta = (r.määrä == 1 ? "Eläin maksaa " : "Eläimet maksaa ") + Str(r.yhtosto);
         Kieltäydy(peli, Rivitä({"Rahasi eivät riitä!", "", "Rahatilanteesi on " + Str(m.Raha), hinta,
+                               // the shortfall is told unnarrowed: a cash with cents shows them all
                                "Sinulta puuttuu " + Str(Int(r.yhtosto) - m.Raha)}));
         return;
     }
@@ -160,10 +169,37 @@ void Myy(Peli& peli) {
     PäivitäEläinruutu(peli);
 }
 
-void TeurasRajaMuuttui(Peli& peli, int raja, const std::string& teksti) {
-    double arvo = Int(Val(teksti));
+bool TeurasRajaMuuttui(Peli& peli, int raja, const std::string& teksti) {
+    // The whole text must read as a number (blanks around it allowed); letters or an empty field
+    // would otherwise stop the butcher's daily run with a type failure.
+    double luku = 0;
+    bool onLuku = true;
+    try {
+        luku = TekstiLuvuksi(teksti);
+    } catch (const Vika&) {
+        onLuku = false;
+    }
+    if (!onLuku || !std::isfinite(luku)) {
+        Kieltäydy(peli, std::string(RAJA_EI_LUKU));
+        return false;
+    }
+    double arvo = Int(luku);
     if (arvo < 0) arvo = 0;
     peli.m.Eläimet.TeurasRaja[static_cast<std::size_t>(raja)] = Luku(arvo);
+    return true;
+}
+
+void AsetaTeuraslaatikko(Peli& peli, int laatikko, bool päällä) {
+    Aseta(peli.m.Eläimet.Teuras[static_cast<std::size_t>(laatikko)], päällä ? 1 : 0);
+}
+
+void AvaaTeuraspaneeli(Peli& peli, bool nylky) {
+    (nylky ? peli.eläinruutu.nylkyAuki : peli.eläinruutu.teurasAuki) = true;
+}
+
+std::uint32_t TeuraslaatikonVäri(const Peli& peli, int laatikko) {
+    const std::uint32_t väri = peli.eläinruutu.laatikonVäri[static_cast<std::size_t>(laatikko)];
+    return väri != 0 ? väri : PANEELIN_VÄRI;
 }
 
 void Takaisin(Peli& peli) {
@@ -173,6 +209,15 @@ void Takaisin(Peli& peli) {
     r.nylkyAuki = false;
     r.laatikonVäri.fill(0);
     EläintenKunto(peli);
+}
+
+bool EläimetEsc(Peli& peli) {
+    if (peli.eläinruutu.kortti >= 0) {
+        peli.eläinruutu.kortti = -1;
+        return false;
+    }
+    Takaisin(peli);
+    return true;
 }
 
 void OsoitinEläinruudulla(Peli& peli, EläinKohde kohde, int kortti) {

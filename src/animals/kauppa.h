@@ -21,6 +21,9 @@ int TeurasRajaNimellä(std::string_view nimi);
 // The whole number a limit field holds; failure 13 when it holds no number.
 double TeurasRaja(const Muuttujat& m, int raja);
 
+// The file of a card's picture, under Kuvat/Eläimet/.
+std::string EläimenKuva(int kortti);
+
 // The adult counter of a card.
 Long& KortinPäät(Muuttujat& m, int kortti);
 
@@ -39,11 +42,24 @@ void Osta(Peli& peli);       // Command4
 void Myy(Peli& peli);        // Command3
 void Teurasta(Peli& peli);   // Command2
 
-// A limit field changed to the text typed: it becomes a whole number, not below 0.
-void TeurasRajaMuuttui(Peli& peli, int raja, const std::string& teksti);
+// A limit field changed to the text typed: a number becomes its whole part, not below 0; a text
+// that is no number is refused with a message and the field keeps what it held. True when taken.
+bool TeurasRajaMuuttui(Peli& peli, int raja, const std::string& teksti);
+// The refusal of a limit that is no number.
+inline constexpr std::string_view RAJA_EI_LUKU = "Teurasrajan pitää olla luku.";
+
+// An order's check box clicked on its panel.
+void AsetaTeuraslaatikko(Peli& peli, int laatikko, bool päällä);
+// The butcher's picture opens the panel Teuras, the tanner's the panel Nylky.
+void AvaaTeuraspaneeli(Peli& peli, bool nylky);
+// The colour an order's box shows: marked after a purchase past its limit, else the panel's own.
+std::uint32_t TeuraslaatikonVäri(const Peli& peli, int laatikko);
 
 // Leaves the screen: the panels close, the order boxes get their colour back, hygiene is worked out.
 void Takaisin(Peli& peli);
+// Esc, or any key on the close button: hides an open card, otherwise leaves the screen. True when
+// the screen was left.
+bool EläimetEsc(Peli& peli);
 
 // The pointer moved over something on the screen (kortti for a picture or a counter).
 void OsoitinEläinruudulla(Peli& peli, EläinKohde kohde, int kortti = -1);

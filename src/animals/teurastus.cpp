@@ -30,12 +30,13 @@ void Teurasta(Peli& peli) {
     const double liha = r.liha;
     const double määrä = r.määrä;
 
-    // The store must hold the meat the card shows; filling it exactly is allowed.
+    // The store must hold the meat the card shows; filling it exactly is allowed. The excess is told
+    // as the sum works out, in double precision, never narrowed to the store's width.
     const double kuorma = VarastoKuorma(m);
     if (kuorma + liha * määrä > m.Koko_Varasto) {
         Kieltäydy(peli, "Sinulla ei ole tilaa varastossa.\nVaraston koko : " + Str(m.Koko_Varasto) +
                             "Varastossa tavaraa : " + Str(CSng(kuorma)) + "Tilankäyttö ylittyy : " +
-                            Str(CSng(kuorma + liha * määrä - m.Koko_Varasto)));
+                            Str(kuorma + liha * määrä - m.Koko_Varasto));
         return;
     }
 

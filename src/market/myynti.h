@@ -1,6 +1,7 @@
 // Sale and purchase of products: the product card, the hand sales, feed, the accountant's sale.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "../core/taulut/tuotteet.h"
@@ -34,6 +35,10 @@ void OstaRehua(Peli& peli);   // Command3, the feed card only
 // The further check box of the open card (manure to the fields, boards to the buildings).
 void Tuotelisäasetus(Peli& peli, bool päällä);
 
+// The name of a product's check box on the accountant's panel: Myy<key>, or OstaRehu for feed;
+// its style button adds "Tyyli".
+std::string AsetuksenNimi(std::size_t k);
+
 // The accountant's panel and its settings.
 void KirjanpitäjäKuva(Peli& peli);                        // opens and closes the panel
 void AsetaAutomyynti(Peli& peli, Tuote k, bool päällä);   // a product's check box (OstaRehu for feed)
@@ -42,8 +47,8 @@ void AsetaMyyntiaika(Peli& peli, int rulla);              // 0 "joka kuukausi", 
 
 // The pointer moved over something on the screen (k for a product's picture).
 void OsoitinTuoteruudulla(Peli& peli, TuoteKohde kohde, int k = -1);
-// Esc: hides the card and the panel when either shows, else leaves the screen.
-void TuotteetEsc(Peli& peli);
+// Esc: hides the card and the panel when either shows, else leaves the screen (true then).
+bool TuotteetEsc(Peli& peli);
 // Command1: leaves the screen.
 void SuljeTuotteet(Peli& peli);
 

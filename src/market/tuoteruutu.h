@@ -10,6 +10,8 @@
 namespace tanhua {
 
 struct TuoteRuutuTila {
+    // The screen has been opened (its prices worked out) and not yet left.
+    bool auki = false;
     // The open card: a product of Tuote, -1 before the player has chosen one.
     int tuote = -1;
     bool akkuna = false;          // the card's panel is showing

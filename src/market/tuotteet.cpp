@@ -101,6 +101,8 @@ int KortinLisä(const Muuttujat& m, Tuote k) {
 
 void AvaaTuotteet(Peli& peli) {
     TuoteRuutuTila& r = peli.tuoteruutu;
+    SoitaÄäni(peli, "klik");
+    r.auki = true;
     PerusHinnat(peli);
     PäivitäTuotteet(peli);
     r.kirjanpitäjäKuva = peli.m.Työ[Kirjanpitäjä] > 0;
@@ -276,19 +278,21 @@ void OsoitinTuoteruudulla(Peli& peli, TuoteKohde kohde, int k) {
     }
 }
 
-void TuotteetEsc(Peli& peli) {
+bool TuotteetEsc(Peli& peli) {
     TuoteRuutuTila& r = peli.tuoteruutu;
     if (r.akkuna || r.taulu) {
         r.akkuna = false;
         r.taulu = false;
-        return;
+        return false;
     }
     SuljeTuotteet(peli);
+    return true;
 }
 
 void SuljeTuotteet(Peli& peli) {
     TuoteRuutuTila& r = peli.tuoteruutu;
     SoitaÄäni(peli, "klik");
+    r.auki = false;
     r.akkuna = false;
     r.taulu = false;
 }

@@ -24,9 +24,17 @@ Integer Erä(const std::string& sana) {
     throw std::runtime_error("the lot must be 1, 10 or 100: '" + sana + "'");
 }
 
-// Chooses the card, sets the lot as the steppers would (without their clicks) and presses the button.
-Toiminto Painike(void (*painike)(Peli&)) {
-    return Toiminto{2, 2, [painike](Peli& peli, const std::vector<std::string>& a) {
+// A button of the card. With a card and a lot named, the card's picture is clicked and the lot set
+// as the steppers would (without their clicks), which a player can always do; with neither, the open
+// card takes the press, and with no card showing the button is out of sight.
+Toiminto Painike(void (*painike)(Peli&), const char* ohjain) {
+    return Toiminto{0, 2, [painike, ohjain](Peli& peli, const std::vector<std::string>& a) {
+                        if (a.size() == 1) throw std::runtime_error("give both the card and the lot, or neither");
+                        if (a.empty()) {
+                            VaadiPainettava(peli, ohjain);
+                            painike(peli);
+                            return;
+                        }
                         const int kortti = Kortti(a[0]);
                         const Integer määrä = Erä(a[1]);
                         ValitseEläin(peli, kortti);
@@ -37,28 +45,72 @@ Toiminto Painike(void (*painike)(Peli&)) {
                     }};
 }
 
+// A stepper of the lot, on the card.
+Toiminto Askel(void (*askel)(Peli&), const char* ohjain) {
+    return Toiminto{0, 0, [askel, ohjain](Peli& peli, const std::vector<std::string>&) {
+                        VaadiPainettava(peli, ohjain);
+                        askel(peli);
+                    }};
+}
+
+int Laatikko(const std::string& nimi) {
+    static constexpr std::array<const char*, 5> NIMET{"TeurasLehmä", "TeurasLammas", "TeurasSika", "TeurasKana",
+                                                      "TeurasKettu"};
+    for (std::size_t b = 0; b < NIMET.size(); ++b)
+        if (nimi == NIMET[b]) return static_cast<int>(b);
+    throw std::runtime_error("unknown order box '" + nimi +
+                             "': TeurasLehmä, TeurasLammas, TeurasSika, TeurasKana or TeurasKettu");
+}
+
+bool Kytkin(const std::string& sana) {
+    if (sana == "1" || sana == "True") return true;
+    if (sana == "0" || sana == "False") return false;
+    throw std::runtime_error("a check box is 1 or 0: '" + sana + "'");
+}
+
 }  // namespace
 
 void EläinkaupanToiminnot(Toimintoluettelo& t) {
     t["AutoTeurastus"] = Pelkkä(AutoTeurastus);
-    t["Eläimet.Avaa"] = Pelkkä(AvaaEläimet);
+    t["Eläimet.Avaa"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                     VaadiPainettava(peli, "Tanhua.Command1");
+                                     AvaaEläimet(peli);
+                                 }};
     t["Eläimet.ValitseEläin"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                              ValitseEläin(peli, Kortti(a[0]));
                                          }};
-    t["Eläimet.määräplus"] = Pelkkä(määräplus);
-    t["Eläimet.määrämiinus"] = Pelkkä(määrämiinus);
-    t["Eläimet.Osta"] = Painike(Osta);
-    t["Eläimet.Myy"] = Painike(Myy);
-    t["Eläimet.Teurasta"] = Painike(Teurasta);
+    t["Eläimet.määräplus"] = Askel(määräplus, "Eläimet.määräplus");
+    t["Eläimet.määrämiinus"] = Askel(määrämiinus, "Eläimet.määrämiinus");
+    t["Eläimet.Osta"] = Painike(Osta, "Eläimet.Command4");
+    t["Eläimet.Myy"] = Painike(Myy, "Eläimet.Command3");
+    t["Eläimet.Teurasta"] = Painike(Teurasta, "Eläimet.Command2");
+    t["Eläimet.Teuraskuva"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                           VaadiPainettava(peli, "Eläimet.Teuraskuva");
+                                           AvaaTeuraspaneeli(peli, false);
+                                       }};
+    t["Eläimet.NahkuriKuva"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                            VaadiPainettava(peli, "Eläimet.NahkuriKuva");
+                                            AvaaTeuraspaneeli(peli, true);
+                                        }};
+    t["Eläimet.Teuraslaatikko"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
+                                               const int laatikko = Laatikko(a[0]);
+                                               const bool päällä = Kytkin(a[1]);
+                                               VaadiPainettava(peli, "Eläimet." + a[0]);
+                                               AsetaTeuraslaatikko(peli, laatikko, päällä);
+                                           }};
     t["Eläimet.TeurasRaja"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
                                            const int raja = TeurasRajaNimellä(a[0]);
                                            if (raja < 0)
                                                throw std::runtime_error("unknown limit field '" + a[0] +
                                                                         "': Lehmä, Sonni, Lammas, Pässi, Sika, "
                                                                         "Karju, Kana, Kukko, Kettu or KettuUros");
+                                           VaadiPainettava(peli, "Eläimet.Teuras" +
+                                                                     std::string(TEURASRAJAT[static_cast<std::size_t>(raja)]) +
+                                                                     "Raja");
                                            TeurasRajaMuuttui(peli, raja, a[1]);
                                        }};
     t["Eläimet.Takaisin"] = Pelkkä(Takaisin);
+    t["Eläimet.Esc"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { EläimetEsc(peli); }};
 }
 
 }  // namespace tanhua

@@ -23,11 +23,23 @@ bool Kytkin(const std::string& sana) {
     throw std::runtime_error("a check box is on or off (1 or 0): '" + sana + "'");
 }
 
+// The card's prices are worked out when the screen opens, so its operations need it open.
+void VaadiAuki(const Peli& peli) {
+    if (!peli.tuoteruutu.auki) Ohita();
+}
+
 // A button of the card: with a product named, its picture is clicked first; without, the card
-// that is open takes the press.
-Toiminto Kortilla(void (*painike)(Peli&)) {
-    return Toiminto{0, 1, [painike](Peli& peli, const std::vector<std::string>& a) {
-                        if (!a.empty()) AvaaTuote(peli, TuoteSanasta(a[0]));
+// that is open takes the press. A product whose card would show the button disabled is a press
+// the player couldn't make, told before the picture is clicked.
+Toiminto Kortilla(void (*painike)(Peli&), const char* ohjain, bool vainRehulla = false) {
+    return Toiminto{0, 1, [painike, ohjain, vainRehulla](Peli& peli, const std::vector<std::string>& a) {
+                        const int k = a.empty() ? -1 : static_cast<int>(TuoteSanasta(a[0]));
+                        VaadiAuki(peli);
+                        if (k >= 0) {
+                            if (vainRehulla && k != Rehu) Ohita();
+                            AvaaTuote(peli, static_cast<Tuote>(k));
+                        }
+                        VaadiPainettava(peli, ohjain);
                         painike(peli);
                     }};
 }
@@ -52,34 +64,58 @@ void MarkkinoidenToiminnot(Toimintoluettelo& t) {
     t["PäivitäTuotteet"] = Pelkkä(PäivitäTuotteet);
     t["Pankki.PörssiRaportti"] = Pelkkä([](Peli& p) { VaadiPainettava(p, "Pankki.Command6"); PörssiRaportti(p); });
 
-    t["Tuotteet.Avaa"] = Pelkkä(AvaaTuotteet);
+    t["Tuotteet.Avaa"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                      VaadiPainettava(peli, "Tanhua.Command3");
+                                      AvaaTuotteet(peli);
+                                  }};
     t["Tuotteet.AvaaTuote"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                           AvaaTuote(peli, TuoteSanasta(a[0]));
+                                           const Tuote k = TuoteSanasta(a[0]);
+                                           VaadiAuki(peli);
+                                           AvaaTuote(peli, k);
                                        }};
-    t["Tuotteet.MyyKaikki"] = Kortilla(MyyKaikki);
-    t["Tuotteet.MyyPuolet"] = Kortilla(MyyPuolet);
-    t["Tuotteet.OstaRehua"] = Kortilla(OstaRehua);
+    t["Tuotteet.MyyKaikki"] = Kortilla(MyyKaikki, "Tuotteet.Command2");
+    t["Tuotteet.MyyPuolet"] = Kortilla(MyyPuolet, "Tuotteet.Command6");
+    t["Tuotteet.OstaRehua"] = Kortilla(OstaRehua, "Tuotteet.Command3", true);
     t["Tuotteet.Tuotelisäasetus"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                                 Tuotelisäasetus(peli, Kytkin(a[0]));
+                                                 const bool päällä = Kytkin(a[0]);
+                                                 VaadiPainettava(peli, "Tuotteet.Tuotelisäasetus");
+                                                 Tuotelisäasetus(peli, päällä);
                                              }};
-    t["Tuotteet.KirjanpitäjäKuva"] = Pelkkä(KirjanpitäjäKuva);
+    t["Tuotteet.KirjanpitäjäKuva"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                                  VaadiPainettava(peli, "Tuotteet.KirjanpitäjäKuva");
+                                                  KirjanpitäjäKuva(peli);
+                                              }};
+    // The accountant's settings sit on his panel.
     t["Tuotteet.Myy"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
-                                     AsetaAutomyynti(peli, TuoteSanasta(a[0]), Kytkin(a[1]));
+                                     const Tuote k = TuoteSanasta(a[0]);
+                                     const bool päällä = Kytkin(a[1]);
+                                     VaadiPainettava(peli, "Tuotteet." + AsetuksenNimi(k));
+                                     AsetaAutomyynti(peli, k, päällä);
                                  }};
     t["Tuotteet.Tyyli"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                       KäännäTyyli(peli, TuoteSanasta(a[0]));
+                                       const Tuote k = TuoteSanasta(a[0]);
+                                       VaadiPainettava(peli, "Tuotteet." + AsetuksenNimi(k) + "Tyyli");
+                                       KäännäTyyli(peli, k);
                                    }};
     t["Tuotteet.rulla"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                        if (a[0] != "0" && a[0] != "1")
-                                           throw std::runtime_error("the slider is 0 (joka kuukausi) or 1 (joka viikko)");
+                                           throw std::runtime_error("the box is 0 (joka kuukausi) or 1 (joka viikko)");
+                                       VaadiPainettava(peli, "Tuotteet.rulla");
                                        AsetaMyyntiaika(peli, a[0] == "1" ? 1 : 0);
                                    }};
+    // Hovering needs no click, but a hidden button or picture can't be hovered.
     t["Tuotteet.Osoitin"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                          const int k = TuoteNimellä(a[0]);
-                                         if (k >= 0) OsoitinTuoteruudulla(peli, TuoteKohde::Kuva, k);
-                                         else OsoitinTuoteruudulla(peli, Kohde(a[0]));
+                                         if (k >= 0) {
+                                             OsoitinTuoteruudulla(peli, TuoteKohde::Kuva, k);
+                                             return;
+                                         }
+                                         const TuoteKohde kohde = Kohde(a[0]);
+                                         if (kohde != TuoteKohde::Ruutu && kohde != TuoteKohde::Command1)
+                                             VaadiPainettava(peli, "Tuotteet." + a[0]);
+                                         OsoitinTuoteruudulla(peli, kohde);
                                      }};
-    t["Tuotteet.Esc"] = Pelkkä(TuotteetEsc);
+    t["Tuotteet.Esc"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { TuotteetEsc(peli); }};
     t["Tuotteet.Sulje"] = Pelkkä(SuljeTuotteet);
 }
 

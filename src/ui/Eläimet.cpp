@@ -4,7 +4,9 @@
 // own
 #include "Pääikkuna.h"
 #include "animals/kauppa.h"
+#include "core/ohjaimet.h"
 // Qt
+#include <QAbstractButton>
 #include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -15,13 +17,25 @@
 namespace tanhua::ui {
 
 namespace {
-std::string KortinKuva(int kortti) {
-    const KorttiRivi& k = KORTIT[kortti];
-    const LajiRivi& laji = LAJITAULU[k.laji];
-    return "Kuvat/Eläimet/" + std::string(k.luokka == Naaras ? laji.kuvaNaaras : laji.kuvaUros);
+
+// What a control of the screen shows, as the library works it out.
+Ohjain Lue(const Peli& peli, const std::string& nimi) {
+    const auto o = LueOhjain(peli, "Eläimet." + nimi);
+    return o ? *o : Piilossa();
 }
 
-QString Luku(long long x) { return QString::fromStdString(Str(x)); }
+// A label or a button takes its control's text and visibility.
+void Näytä(const Peli& peli, QWidget* w, const std::string& nimi) {
+    const Ohjain o = Lue(peli, nimi);
+    if (auto* l = qobject_cast<QLabel*>(w)) l->setText(QString::fromStdString(o.arvo));
+    else if (auto* b = qobject_cast<QAbstractButton*>(w)) b->setText(QString::fromStdString(o.arvo));
+    w->setVisible(o.näkyvissä);
+    w->setEnabled(o.käytössä);
+}
+
+QString Väri(std::uint32_t v) {
+    return QString("rgb(%1,%2,%3)").arg(v & 0xFF).arg((v >> 8) & 0xFF).arg((v >> 16) & 0xFF);
+}
 }  // namespace
 
 Eläimet::Eläimet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
@@ -88,16 +102,19 @@ QWidget* Eläimet::Kortisto() {
     for (int kortti = 0; kortti < 12; ++kortti) {
         const int rivi = 1 + kortti / 2, sarake = (kortti % 2) * 2;
         kuvat_[kortti] = new QLabel(kortisto);
-        kuvat_[kortti]->setObjectName(QString("Kuva%1").arg(kortti));
-        kuvat_[kortti]->setPixmap(tanhua::ui::Kuva(peli_, KortinKuva(kortti)).scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[kortti]->setObjectName(QString("Kuva(%1)").arg(kortti));
+        const Ohjain kuva = Lue(peli_, "Kuva(" + std::to_string(kortti) + ")");
+        kuvat_[kortti]->setPixmap(tanhua::ui::Kuva(peli_, "Kuvat/Eläimet/" + kuva.arvo).scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[kortti]->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
         kuvat_[kortti]->setFixedSize(68, 68);
         kuvat_[kortti]->setAlignment(Qt::AlignCenter);
         kuvat_[kortti]->setCursor(Qt::PointingHandCursor);
-        kuvat_[kortti]->setToolTip(QString::fromUtf8(KORTIT[kortti].otsikko.data(), KORTIT[kortti].otsikko.size()));
+        kuvat_[kortti]->setToolTip(QString::fromStdString(kuva.vihje));
         kuvat_[kortti]->setProperty("kortti", kortti);
         kuvat_[kortti]->setProperty("kohde", static_cast<int>(EläinKohde::Kuva));
         kuvat_[kortti]->installEventFilter(this);
         laskurit_[kortti] = Teksti("", 14, kortisto);
+        laskurit_[kortti]->setObjectName(QString("Laskuri(%1)").arg(kortti));
         laskurit_[kortti]->setProperty("kortti", kortti);
         laskurit_[kortti]->setProperty("kohde", static_cast<int>(EläinKohde::Laskuri));
         laskurit_[kortti]->installEventFilter(this);
@@ -105,11 +122,11 @@ QWidget* Eläimet::Kortisto() {
         g->addWidget(laskurit_[kortti], rivi, sarake + 1);
     }
     // The young and the cubs of each species, in the rows of their parents.
-    const std::array<Laji, 6> järjestys{Nauta, Lammas, Sika, Kana, Kettu, Hevonen};
     for (int i = 0; i < 6; ++i) {
         nuoret_[i] = Teksti("", 11, kortisto, false);
+        nuoret_[i]->setObjectName(QString("Nuoret(%1)").arg(i));
         poikaset_[i] = Teksti("", 11, kortisto, false);
-        nuoret_[i]->setProperty("laji", static_cast<int>(järjestys[i]));
+        poikaset_[i]->setObjectName(QString("Poikaset(%1)").arg(i));
         g->addWidget(nuoret_[i], 1 + i, 4);
         g->addWidget(poikaset_[i], 1 + i, 5);
     }
@@ -125,23 +142,31 @@ QWidget* Eläimet::Kortisto() {
 QFrame* Eläimet::Korttipaneeli() {
     QFrame* p = Paneeli(this, "akkuna");
     otsikko_ = Teksti("", 16, p);
+    otsikko_->setObjectName("otsikko");
     korttikuva_ = new QLabel(p);
+    korttikuva_->setObjectName("KorttiKuva");
     info_ = Teksti("", 10, p, false);
+    info_->setObjectName("Info");
     info_->setWordWrap(true);
     info_->setMinimumHeight(70);
     ostohinta_ = Teksti("", 11, p, false);
+    ostohinta_->setObjectName("Ostohinta");
     myyntihinta_ = Teksti("", 11, p, false);
+    myyntihinta_->setObjectName("Myyntihinta");
     liha_ = Teksti("", 11, p, false);
+    liha_->setObjectName("Lihaa");
     määrä_ = Teksti("", 14, p);
     määrä_->setObjectName("määrä");
     määrä_->setAlignment(Qt::AlignCenter);
     yhtosto_ = Teksti("", 11, p);
+    yhtosto_->setObjectName("yhtosto");
     yhtmyynti_ = Teksti("", 11, p);
-    miinus_ = new QPushButton("-", p);
-    plus_ = new QPushButton("+", p);
-    osta_ = new QPushButton("Osta", p);
-    myy_ = new QPushButton("Myy", p);
-    teurasta_ = new QPushButton("Teurasta", p);
+    yhtmyynti_->setObjectName("yhtmyynti");
+    miinus_ = new QPushButton(p);
+    plus_ = new QPushButton(p);
+    osta_ = new QPushButton(p);
+    myy_ = new QPushButton(p);
+    teurasta_ = new QPushButton(p);
     const std::array<std::pair<QPushButton*, const char*>, 5> napit{
         std::pair{miinus_, "määrämiinus"}, std::pair{plus_, "määräplus"}, std::pair{osta_, "Command4"},
         std::pair{myy_, "Command3"}, std::pair{teurasta_, "Command2"}};
@@ -183,28 +208,32 @@ QFrame* Eläimet::Korttipaneeli() {
 QFrame* Eläimet::Teuraspaneeli(bool nylky) {
     QFrame* p = Paneeli(this, nylky ? "Nylky" : "Teuras");
     auto* g = new QGridLayout(p);
-    int rivi = 0;
+    QLabel* otsikko = Teksti("", 12, p);
+    otsikko->setObjectName("otsikko");
+    g->addWidget(otsikko, 0, 0, 1, 3);
+    int rivi = 1;
+    static constexpr std::array<const char*, 5> NIMET{"TeurasLehmä", "TeurasLammas", "TeurasSika", "TeurasKana",
+                                                      "TeurasKettu"};
     for (int i = 0; i < 5; ++i) {
         if (TEURASLAATIKOT[i].nylky != nylky) continue;
         const auto& teksti = TEURASLAATIKOT[i].kuvateksti;
         laatikot_[i] = new QCheckBox(QString::fromUtf8(teksti.data(), teksti.size()), p);
-        laatikot_[i]->setObjectName(QString("Teuras%1").arg(i));
-        laatikot_[i]->setStyleSheet("color: #24160a;");
+        laatikot_[i]->setObjectName(NIMET[i]);
         g->addWidget(laatikot_[i], rivi, 0);
         connect(laatikot_[i], &QCheckBox::toggled, this, [this, i](bool päällä) {
-            Aseta(peli_.m.Eläimet.Teuras[i], päällä ? 1 : 0);
+            ikkuna_.Toimi([this, i, päällä] { AsetaTeuraslaatikko(peli_, i, päällä); });
         });
         for (int j = 0; j < 2; ++j) {
             const int raja = 2 * i + j;
             rajat_[raja] = new QLineEdit(p);
             rajat_[raja]->setObjectName(QString("Teuras%1Raja").arg(QString::fromUtf8(TEURASRAJAT[raja].data(), TEURASRAJAT[raja].size())));
             rajat_[raja]->setMaximumWidth(60);
-            rajat_[raja]->setToolTip(QString::fromUtf8(KORTIT[0].otsikko.data(), 0) +
-                                     QString::fromUtf8(TEURASRAJAT[raja].data(), TEURASRAJAT[raja].size()));
             g->addWidget(rajat_[raja], rivi, 1 + j);
             connect(rajat_[raja], &QLineEdit::editingFinished, this, [this, raja] {
                 const std::string teksti = rajat_[raja]->text().toStdString();
                 ikkuna_.Toimi([this, raja, teksti] { TeurasRajaMuuttui(peli_, raja, teksti); });
+                // A refused text gives way to what the field holds.
+                rajat_[raja]->setText(QString::fromStdString(Lue(peli_, rajat_[raja]->objectName().toStdString()).arvo));
             });
         }
         ++rivi;
@@ -213,56 +242,63 @@ QFrame* Eläimet::Teuraspaneeli(bool nylky) {
     return p;
 }
 
-void Eläimet::Avaa() {
-    AvaaEläimet(peli_);
-    for (int i = 0; i < 5; ++i) {
-        const QSignalBlocker esto(laatikot_[i]);
-        laatikot_[i]->setChecked(peli_.m.Eläimet.Teuras[i] == 1);
-    }
-}
+void Eläimet::Avaa() { AvaaEläimet(peli_); }
 
 void Eläimet::Päivitä() {
-    const Muuttujat& m = peli_.m;
     const EläinRuutuTila& t = peli_.eläinruutu;
     for (int kortti = 0; kortti < 12; ++kortti)
-        laskurit_[kortti]->setText(Luku(m.El[KORTIT[kortti].laji][KORTIT[kortti].luokka]));
+        Näytä(peli_, laskurit_[kortti], "Laskuri(" + std::to_string(kortti) + ")");
     for (int i = 0; i < 6; ++i) {
-        const int laji = nuoret_[i]->property("laji").toInt();
-        nuoret_[i]->setText(Luku(m.El[laji][Nuori]));
-        poikaset_[i]->setText(Luku(m.El[laji][Poikanen]));
+        Näytä(peli_, nuoret_[i], "Nuoret(" + std::to_string(i) + ")");
+        Näytä(peli_, poikaset_[i], "Poikaset(" + std::to_string(i) + ")");
     }
-    aikuisia_->setText("Aikuisia :" + Luku(t.aikuisia));
-    pienet_->setText("Pieniä :" + Luku(t.pienet));
-    aihe_->setText(QString::fromStdString(t.aihe));
-    ohje_->setVisible(m.OhjeetPäällä);
-    ohje_->setText(QString::fromStdString(t.ohje));
-    akkuna_->setVisible(t.kortti >= 0);
-    if (t.kortti >= 0) {
-        otsikko_->setText(QString::fromStdString(t.otsikko));
-        korttikuva_->setPixmap(KuvaJosOn(peli_, KortinKuva(t.kortti)).scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        info_->setText(QString::fromStdString(t.info));
-        ostohinta_->setText("Ostohinta :" + Luku(t.ostohinta));
-        myyntihinta_->setText("Myyntihinta :" + Luku(t.myyntihinta));
-        liha_->setText("Lihaa :" + Luku(t.liha) + " kg");
-        määrä_->setText(QString::number(t.määrä));
-        yhtosto_->setText("Yhteensä osto :" + Luku(t.yhtosto));
-        yhtmyynti_->setText("Yhteensä myynti :" + Luku(t.yhtmyynti));
+    Näytä(peli_, aikuisia_, "Aikuisia_Eläimiä");
+    Näytä(peli_, pienet_, "Pienet_Eläimet");
+    Näytä(peli_, aihe_, "aihe");
+    Näytä(peli_, ohje_, "Ohje");
+    Näytä(peli_, takaisin_, "Command1");
+
+    const Ohjain kortti = Lue(peli_, "akkuna");
+    akkuna_->setVisible(kortti.näkyvissä);
+    if (kortti.näkyvissä) {
+        otsikko_->setText(QString::fromStdString(kortti.arvo));
+        const Ohjain kuva = Lue(peli_, "KorttiKuva");
+        korttikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/Eläimet/" + kuva.arvo).scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        korttikuva_->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
+        const std::array<std::pair<QWidget*, const char*>, 12> kortilla{
+            std::pair<QWidget*, const char*>{info_, "Info"}, {ostohinta_, "Ostohinta"}, {myyntihinta_, "Myyntihinta"},
+            {liha_, "Lihaa"}, {määrä_, "määrä"}, {yhtosto_, "yhtosto"}, {yhtmyynti_, "yhtmyynti"},
+            {miinus_, "määrämiinus"}, {plus_, "määräplus"}, {osta_, "Command4"}, {myy_, "Command3"},
+            {teurasta_, "Command2"}};
+        for (auto [w, nimi] : kortilla) Näytä(peli_, w, nimi);
     }
-    teuraskuva_->setVisible(t.teuraskuva);
-    nahkurikuva_->setVisible(t.nahkurikuva);
-    teuras_->setVisible(t.teurasAuki);
-    nylky_->setVisible(t.nylkyAuki);
+
+    for (auto [kuva, nimi] : {std::pair{teuraskuva_, "Teuraskuva"}, std::pair{nahkurikuva_, "NahkuriKuva"}}) {
+        const Ohjain o = Lue(peli_, nimi);
+        kuva->setVisible(o.näkyvissä);
+        kuva->setProperty("tiedosto", QString::fromStdString(o.arvo));
+    }
+    for (auto [paneeli, nimi] : {std::pair{teuras_, "Teuras"}, std::pair{nylky_, "Nylky"}}) {
+        const Ohjain o = Lue(peli_, nimi);
+        paneeli->setVisible(o.näkyvissä);
+        paneeli->findChild<QLabel*>("otsikko")->setText(QString::fromStdString(o.arvo));
+    }
     for (int i = 0; i < 5; ++i) {
-        const std::uint32_t väri = t.laatikonVäri[i];
-        laatikot_[i]->setStyleSheet(väri == 0 ? QString("color: #24160a;")
-                                              : QString("color: #24160a; background: rgb(%1,%2,%3);")
-                                                    .arg(väri & 0xFF).arg((väri >> 8) & 0xFF).arg((väri >> 16) & 0xFF));
+        const Ohjain o = Lue(peli_, laatikot_[i]->objectName().toStdString());
+        const QSignalBlocker esto(laatikot_[i]);
+        laatikot_[i]->setChecked(o.arvo == "True");
+        laatikot_[i]->setProperty("väri", o.väri.value_or(0));
+        laatikot_[i]->setStyleSheet("color: #24160a; background: " + Väri(o.väri.value_or(0)) + ";");
     }
     for (int raja = 0; raja < 10; ++raja)
-        if (!rajat_[raja]->hasFocus()) rajat_[raja]->setText(QString::fromStdString(m.Eläimet.TeurasRaja[raja]));
-    if (t.kohdistin >= 0) {
+        if (!rajat_[raja]->hasFocus())
+            rajat_[raja]->setText(QString::fromStdString(Lue(peli_, rajat_[raja]->objectName().toStdString()).arvo));
+
+    const Ohjain kohdistin = Lue(peli_, "Kohdistin");
+    if (kohdistin.näkyvissä && t.kohdistin >= 0) {
         QLabel* kuva = kuvat_[t.kohdistin];
-        kohdistin_->setPixmap(KuvaJosOn(peli_, "Kuvat/Kohdistin.gif").scaled(kuva->size()));
+        kohdistin_->setPixmap(KuvaJosOn(peli_, "Kuvat/" + kohdistin.arvo).scaled(kuva->size()));
+        kohdistin_->setProperty("tiedosto", QString::fromStdString(kohdistin.arvo));
         kohdistin_->setGeometry(QRect(kuva->mapTo(this, QPoint(0, 0)), kuva->size()));
         kohdistin_->show();
         kohdistin_->raise();
@@ -289,20 +325,13 @@ bool Eläimet::eventFilter(QObject* kohde, QEvent* tapahtuma) {
             return true;
         }
         if (kohde == teuraskuva_ || kohde == nahkurikuva_) {
-            // The staff pictures open their panels.
-            (kohde == teuraskuva_ ? peli_.eläinruutu.teurasAuki : peli_.eläinruutu.nylkyAuki) = true;
-            Päivitä();
+            ikkuna_.Toimi([&] { AvaaTeuraspaneeli(peli_, kohde == nahkurikuva_); });
             return true;
         }
     }
     if (tapahtuma->type() == QEvent::KeyPress && kohde == takaisin_) {
         // On the close button any key hides an open card, and otherwise closes the screen.
-        if (peli_.eläinruutu.kortti >= 0) {
-            peli_.eläinruutu.kortti = -1;
-            Päivitä();
-        } else {
-            Sulje();
-        }
+        Esc();
         return true;
     }
     return Tausta::eventFilter(kohde, tapahtuma);
@@ -316,15 +345,16 @@ void Eläimet::mouseMoveEvent(QMouseEvent* tapahtuma) {
 
 void Eläimet::keyPressEvent(QKeyEvent* tapahtuma) {
     if (tapahtuma->key() == Qt::Key_Escape) {
-        if (peli_.eläinruutu.kortti >= 0) {
-            peli_.eläinruutu.kortti = -1;
-            Päivitä();
-        } else {
-            Sulje();
-        }
+        Esc();
         return;
     }
     Tausta::keyPressEvent(tapahtuma);
+}
+
+void Eläimet::Esc() {
+    bool suljettu = false;
+    ikkuna_.Toimi([this, &suljettu] { suljettu = EläimetEsc(peli_); });
+    if (suljettu) ikkuna_.PalaaPääruutuun();
 }
 
 void Eläimet::Sulje() {

@@ -53,6 +53,7 @@ private:
     QFrame* Korttipaneeli();
     QFrame* Teuraspaneeli(bool nylky);
     void Sulje();
+    void Esc();
 
     Peli& peli_;
     Pääikkuna& ikkuna_;

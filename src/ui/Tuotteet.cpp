@@ -4,8 +4,10 @@
 // own
 #include "Pääikkuna.h"
 #include "market/myynti.h"
+#include "core/ohjaimet.h"
 #include "market/taulut/tuoteruutu.h"
 // Qt
+#include <QAbstractButton>
 #include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -16,7 +18,28 @@
 namespace tanhua::ui {
 
 namespace {
-QString Määrä(double x) { return QString::fromStdString(Str(CSng(x))); }
+// What a control of the screen shows, as the library works it out.
+Ohjain Lue(const Peli& peli, const std::string& nimi) {
+    const auto o = LueOhjain(peli, "Tuotteet." + nimi);
+    return o ? *o : Piilossa();
+}
+
+// A widget takes its control's text (a check box its state) and its visibility.
+void Näytä(const Peli& peli, QWidget* w, const std::string& nimi) {
+    const Ohjain o = Lue(peli, nimi);
+    if (auto* c = qobject_cast<QCheckBox*>(w)) {
+        const QSignalBlocker esto(c);
+        c->setChecked(o.arvo == "True");
+    } else if (auto* l = qobject_cast<QLabel*>(w)) {
+        l->setText(QString::fromStdString(o.arvo));
+    } else if (auto* b = qobject_cast<QAbstractButton*>(w)) {
+        b->setText(QString::fromStdString(o.arvo));
+    }
+    w->setVisible(o.näkyvissä);
+    w->setEnabled(o.käytössä);
+}
+
+std::string Nro(const char* nimi, int i) { return std::string(nimi) + "(" + std::to_string(i) + ")"; }
 }  // namespace
 
 Tuotteet::Tuotteet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
@@ -55,18 +78,20 @@ QWidget* Tuotteet::Hylly() {
     auto* g = new QGridLayout(hylly);
     g->setSpacing(4);
     for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
-        const TuoteRivi& rivi = TUOTETAULU[k];
         kuvat_[k] = new QLabel(hylly);
-        kuvat_[k]->setObjectName(QString("Kuva_%1").arg(Sv(rivi.avain)));
-        kuvat_[k]->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + std::string(rivi.kuva))
+        const Ohjain kuva = Lue(peli_, Nro("Kuva", k));
+        kuvat_[k]->setObjectName(QString::fromStdString(Nro("Kuva", k)));
+        kuvat_[k]->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + kuva.arvo)
                                  .scaled(58, 58, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[k]->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
         kuvat_[k]->setAlignment(Qt::AlignCenter);
         kuvat_[k]->setCursor(Qt::PointingHandCursor);
-        kuvat_[k]->setToolTip(Sv(rivi.nimi));
+        kuvat_[k]->setToolTip(QString::fromStdString(kuva.vihje));
         kuvat_[k]->setProperty("tuote", k);
         kuvat_[k]->setProperty("kohde", static_cast<int>(TuoteKohde::Kuva));
         kuvat_[k]->installEventFilter(this);
         varastot_[k] = Teksti("", 10, hylly);
+        varastot_[k]->setObjectName(QString::fromStdString(Nro("Varasto", k)));
         varastot_[k]->setAlignment(Qt::AlignCenter);
         const int rivinro = (k / 5) * 2, sarake = k % 5;
         g->addWidget(kuvat_[k], rivinro, sarake);
@@ -78,26 +103,33 @@ QWidget* Tuotteet::Hylly() {
 QFrame* Tuotteet::Korttipaneeli() {
     QFrame* p = Paneeli(this, "akkuna");
     nimi_ = Teksti("", 16, p);
+    nimi_->setObjectName("otsikko");
     korttikuva_ = new QLabel(p);
+    korttikuva_->setObjectName("KorttiKuva");
     hinta_ = Teksti("", 11, p, false);
+    hinta_->setObjectName("hinta");
     kurssi_ = Teksti("", 11, p, false);
+    kurssi_->setObjectName("kurssi");
     vAika_ = Teksti("", 11, p, false);
+    vAika_->setObjectName("vAika");
     yhinta_ = Teksti("", 11, p, false);
+    yhinta_->setObjectName("yhinta");
     kpl_ = Teksti("", 11, p, false);
+    kpl_->setObjectName("kpl");
     yhthinta_ = Teksti("", 13, p);
     yhthinta_->setObjectName("Yhthinta");
     lisäasetus_ = new QCheckBox(p);
     lisäasetus_->setObjectName("Tuotelisäasetus");
     lisäasetus_->setStyleSheet("color: #24160a;");
-    myyKaikki_ = new QPushButton("Myy", p);
+    myyKaikki_ = new QPushButton(p);
     myyKaikki_->setObjectName("Command2");
     myyKaikki_->setToolTip("Myy kaikki tuotteet");
     myyKaikki_->setProperty("kohde", static_cast<int>(TuoteKohde::Command2));
-    myyPuolet_ = new QPushButton("Myy 1/2", p);
+    myyPuolet_ = new QPushButton(p);
     myyPuolet_->setObjectName("Command6");
     myyPuolet_->setToolTip("Myy puolet valitsemastasi tuotteista");
     myyPuolet_->setProperty("kohde", static_cast<int>(TuoteKohde::Command6));
-    osta_ = new QPushButton("Osta", p);
+    osta_ = new QPushButton(p);
     osta_->setObjectName("Command3");
     osta_->setToolTip("Ostaa kyseistä tuotetta");
     osta_->setProperty("kohde", static_cast<int>(TuoteKohde::Command3));
@@ -137,12 +169,14 @@ QFrame* Tuotteet::Kirjanpitäjänpaneeli() {
     QFrame* p = Paneeli(this, "Taulu");
     auto* g = new QGridLayout(p);
     g->setVerticalSpacing(1);
-    g->addWidget(Teksti("Kirjanpitäjän automaattinen myynti", 11, p), 0, 0, 1, 4);
+    QLabel* otsikko = Teksti(Sv(tuoteruutu::TAULUN_OTSIKKO), 11, p);
+    otsikko->setObjectName("otsikko");
+    g->addWidget(otsikko, 0, 0, 1, 4);
     int rivi = 1;
     for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
         const QString nimi = k == Rehu ? QString("Osta rehua") : Sv(TUOTETAULU[k].listaNimi);
         myy_[k] = new QCheckBox(nimi, p);
-        myy_[k]->setObjectName(k == Rehu ? QString("OstaRehu") : "Myy" + Sv(TUOTETAULU[k].avain));
+        myy_[k]->setObjectName(QString::fromStdString(AsetuksenNimi(static_cast<std::size_t>(k))));
         myy_[k]->setStyleSheet("color: #24160a;");
         tyyli_[k] = new QPushButton(p);
         tyyli_[k]->setObjectName(myy_[k]->objectName() + "Tyyli");
@@ -158,16 +192,15 @@ QFrame* Tuotteet::Kirjanpitäjänpaneeli() {
             ikkuna_.Toimi([this, k] { KäännäTyyli(peli_, static_cast<Tuote>(k)); });
         });
     }
-    rulla_ = new QSlider(Qt::Horizontal, p);
+    rulla_ = new QCheckBox(p);
     rulla_->setObjectName("rulla");
-    rulla_->setRange(0, 1);
     myyntiAika_ = Teksti("", 11, p);
     myyntiAika_->setObjectName("MyyntiAika");
     g->addWidget(Teksti("Myynti :", 11, p, false), 12, 0);
     g->addWidget(rulla_, 12, 1);
     g->addWidget(myyntiAika_, 12, 2, 1, 2);
-    connect(rulla_, &QSlider::valueChanged, this, [this](int arvo) {
-        ikkuna_.Toimi([this, arvo] { AsetaMyyntiaika(peli_, arvo); });
+    connect(rulla_, &QCheckBox::clicked, this, [this](bool päällä) {
+        ikkuna_.Toimi([this, päällä] { AsetaMyyntiaika(peli_, päällä ? 1 : 0); });
     });
     p->hide();
     return p;
@@ -176,39 +209,37 @@ QFrame* Tuotteet::Kirjanpitäjänpaneeli() {
 void Tuotteet::Avaa() { AvaaTuotteet(peli_); }
 
 void Tuotteet::Päivitä() {
-    const Muuttujat& m = peli_.m;
-    const TuoteRuutuTila& t = peli_.tuoteruutu;
-    for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) varastot_[k]->setText(Määrä(t.varasto[k]));
-    aihe_->setText(QString::fromStdString(t.aihe));
-    ohje_->setVisible(m.OhjeetPäällä);
-    ohje_->setText(QString::fromStdString(t.ohje));
-    akkuna_->setVisible(t.akkuna);
-    if (t.akkuna && t.tuote >= 0) {
-        nimi_->setText(QString::fromStdString(t.nimi));
-        korttikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + std::string(TUOTETAULU[t.tuote].kuva))
+    for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) Näytä(peli_, varastot_[k], Nro("Varasto", k));
+    Näytä(peli_, aihe_, "aihe");
+    Näytä(peli_, ohje_, "Ohje");
+    Näytä(peli_, sulje_, "Command1");
+    const Ohjain kortti = Lue(peli_, "akkuna");
+    akkuna_->setVisible(kortti.näkyvissä);
+    if (kortti.näkyvissä) {
+        nimi_->setText(QString::fromStdString(kortti.arvo));
+        const Ohjain kuva = Lue(peli_, "KorttiKuva");
+        korttikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + kuva.arvo)
                                    .scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        hinta_->setText(QString::fromStdString(Str(t.hinta)));
-        kurssi_->setText(QString::fromStdString(Str(t.kurssi)));
-        vAika_->setText(QString::fromStdString(t.vAika));
-        yhinta_->setText(QString::fromStdString(Str(t.yhinta)));
-        kpl_->setText(Määrä(t.kpl));
-        yhthinta_->setText(QString::fromStdString(Str(t.Yhthinta)));
-        osta_->setEnabled(t.ostaKäytössä);
-        lisäasetus_->setVisible(t.lisäasetusNäkyy);
-        lisäasetus_->setText(QString::fromStdString(t.lisäasetusTeksti));
-        lisäasetus_->setChecked(t.lisäasetus);
+        korttikuva_->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
+        const std::array<std::pair<QWidget*, const char*>, 10> kortilla{
+            std::pair<QWidget*, const char*>{hinta_, "hinta"}, {kurssi_, "kurssi"}, {vAika_, "vAika"},
+            {yhinta_, "yhinta"}, {kpl_, "kpl"}, {yhthinta_, "Yhthinta"}, {myyKaikki_, "Command2"},
+            {myyPuolet_, "Command6"}, {osta_, "Command3"}, {lisäasetus_, "Tuotelisäasetus"}};
+        for (auto [w, nimi] : kortilla) Näytä(peli_, w, nimi);
+        lisäasetus_->setText(QString::fromStdString(peli_.tuoteruutu.lisäasetusTeksti));
     }
-    kirjanpitäjä_->setVisible(t.kirjanpitäjäKuva);
-    taulu_->setVisible(t.taulu);
-    for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
-        myy_[k]->setChecked(m.Tuotteet.Myy[k] == 1);
-        tyyli_[k]->setText(QString::fromStdString(m.Tuotteet.MyyTyyli[k]));
+    const Ohjain kirjanpitäjä = Lue(peli_, "KirjanpitäjäKuva");
+    kirjanpitäjä_->setVisible(kirjanpitäjä.näkyvissä);
+    kirjanpitäjä_->setProperty("tiedosto", QString::fromStdString(kirjanpitäjä.arvo));
+    taulu_->setVisible(Lue(peli_, "Taulu").näkyvissä);
+    if (taulu_->isVisibleTo(this)) {
+        for (int k = 0; k < static_cast<int>(TUOTTEITA); ++k) {
+            Näytä(peli_, myy_[k], myy_[k]->objectName().toStdString());
+            Näytä(peli_, tyyli_[k], tyyli_[k]->objectName().toStdString());
+        }
+        Näytä(peli_, rulla_, "rulla");
+        Näytä(peli_, myyntiAika_, "MyyntiAika");
     }
-    {
-        const QSignalBlocker esto(rulla_);
-        rulla_->setValue(m.Tuotteet.rulla);
-    }
-    myyntiAika_->setText(Sv(tuoteruutu::MYYNTIAJAT.at(m.Tuotteet.rulla == 1 ? 1 : 0)));
 }
 
 bool Tuotteet::eventFilter(QObject* kohde, QEvent* tapahtuma) {
@@ -242,9 +273,9 @@ void Tuotteet::mouseMoveEvent(QMouseEvent* tapahtuma) {
 void Tuotteet::keyPressEvent(QKeyEvent* tapahtuma) {
     if (tapahtuma->key() == Qt::Key_Escape) {
         // With the card or the panel showing, Esc hides both; otherwise it leaves the screen.
-        const bool jotainAuki = peli_.tuoteruutu.akkuna || peli_.tuoteruutu.taulu;
-        ikkuna_.Toimi([this] { TuotteetEsc(peli_); });
-        if (!jotainAuki) ikkuna_.PalaaPääruutuun();
+        bool suljettu = false;
+        ikkuna_.Toimi([this, &suljettu] { suljettu = TuotteetEsc(peli_); });
+        if (suljettu) ikkuna_.PalaaPääruutuun();
         return;
     }
     Tausta::keyPressEvent(tapahtuma);

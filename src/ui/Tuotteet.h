@@ -9,7 +9,6 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <QSlider>
 #include <array>
 
 namespace tanhua::ui {
@@ -34,7 +33,7 @@ public:
     QLabel* KirjanpitäjäKuva() const { return kirjanpitäjä_; }
     QCheckBox* Myy(int k) const { return myy_[k]; }
     QPushButton* Tyyli(int k) const { return tyyli_[k]; }
-    QSlider* rulla() const { return rulla_; }
+    QCheckBox* rulla() const { return rulla_; }
     QLabel* Yhthinta() const { return yhthinta_; }
     QLabel* aihe() const { return aihe_; }
 
@@ -59,7 +58,7 @@ private:
     QPushButton *myyKaikki_, *myyPuolet_, *osta_, *sulje_;
     std::array<QCheckBox*, TUOTTEITA> myy_{};
     std::array<QPushButton*, TUOTTEITA> tyyli_{};
-    QSlider* rulla_;
+    QCheckBox* rulla_;
 };
 
 }  // namespace tanhua::ui

@@ -8,25 +8,24 @@
 namespace tanhua::testi {
 
 // A started farm with no animals, staff, supplies or stock, a roomy barn and no pasture.
-inline void TyhjäLauma(Testipeli& t) {
-    t.Aloita();
-    t.m.El = {};
-    t.m.Työ = {};
-    t.m.Ylityö = {};
-    t.m.Moti = {};
-    t.m.Tarv = {};
-    t.m.Var = {};
-    t.m.Syönti = {};
-    t.m.Laidun = 0;
-    t.m.Vuodenaika = "Kesä";
-    t.m.Raha = 100000;
-    t.m.Koko_Navetta = 100000;
-    t.m.Käyrät.Eläimiä.clear();
-    t.peli.arvonta.TyhjennäJono();
-}
-
-inline void Jonoon(Testipeli& t, const std::vector<double>& arvot) {
-    for (double r : arvot) t.peli.arvonta.Jonoon(r);
-}
+struct Lauma : Testipeli {
+    Lauma() {
+        Aloita();
+        m.El = {};
+        m.Työ = {};
+        m.Tarv = {};
+        m.Var = {};
+        m.Laidun = 0;
+        m.Vuodenaika = "Kesä";
+        m.Raha = 100000;
+        m.Koko_Navetta = 100000;
+        m.Käyrät.Eläimiä.clear();
+        peli.arvonta.TyhjennäJono();
+    }
+    // Queues given draws.
+    void Jonoon(const std::vector<double>& arvot) {
+        for (double r : arvot) peli.arvonta.Jonoon(r);
+    }
+};
 
 }  // namespace tanhua::testi

@@ -1,8 +1,10 @@
-// The market's monthly step, the first walk of a new farm and the bank's market report.
+// The market's monthly step, the first walk of a new farm, the bank's market report and the base prices.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 
+#include "core/perushinnat.h"
 #include "market/markkinat.h"
 #include "market/taulut/pörssi.h"
 #include "tuki/testipeli.h"
@@ -46,74 +48,18 @@ TEST_F(Markkinapeli, WalkRoundsToEvenWithOneDrawForEachIndexInOrder) {
                  {{MaaPelto, 0.75}, {MaaMetsä, 0.25}, {MaaLaidun, 0.0}});
     Markkinat(t.peli);
     struct Tapaus { Tuote k; int odotettu; };
-    for (const Tapaus& c : {Tapaus{Maito, 0},     // 1.5 - 1 = 0.5 -> 0
-                            Tapaus{Liha, 2},      // 2 + 2.5 - 2 = 2.5 -> 2
-                            Tapaus{Villa, 2},     // 1 + 2.5 - 2 = 1.5 -> 2
-                            Tapaus{Turkki, -19},  // the lowest step of furs
-                            Tapaus{Vaate, 0},     // 6.5 - 6 = 0.5 -> 0
-                            Tapaus{Leipä, 3},     // 8.25 - 5 -> 3
-                            Tapaus{Hunaja, 3}})   // 4.95 - 2 -> 3
+    // Milk 1.5 - 1 = 0.5 -> 0; meat 2 + 2.5 - 2 = 2.5 -> 2; wool 1 + 2.5 - 2 = 1.5 -> 2; furs at their lowest step;
+    // clothes 6.5 - 6 = 0.5 -> 0; bread 8.25 - 5 -> 3; honey 4.95 - 2 -> 3.
+    for (const Tapaus& c : {Tapaus{Maito, 0}, {Liha, 2}, {Villa, 2}, {Turkki, -19}, {Vaate, 0}, {Leipä, 3}, {Hunaja, 3}})
         EXPECT_EQ(t.m.Kurssi[c.k], c.odotettu) << TUOTETAULU[c.k].avain;
-    EXPECT_EQ(t.m.MaaKurssi[MaaPelto], 250);
-    EXPECT_EQ(t.m.MaaKurssi[MaaMetsä], -150);
-    EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], 0);
-    EXPECT_EQ(t.m.MaaKurssi[MaaLaidun], -250);
+    EXPECT_EQ(t.m.MaaKurssi, (std::array<Long, MAITA>{-150, 250, 0, -250}));  // forest, field, waste land, pasture
     EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
     EXPECT_TRUE(t.Tapahtumat().empty());
 }
 
-TEST_F(Markkinapeli, AnIndexAboveItsLimitCrashesToZero) {
-    struct Tapaus { Tuote k; int ennen; int jälkeen; };
-    for (const Tapaus& c : {Tapaus{Maito, 5, 5}, Tapaus{Maito, 6, 0}, Tapaus{Liha, 8, 8}, Tapaus{Liha, 9, 0},
-                            Tapaus{Turkki, 150, 150}, Tapaus{Turkki, 151, 0}, Tapaus{Lauta, 25, 25},
-                            Tapaus{Lauta, 26, 0}, Tapaus{Juusto, 14, 0}, Tapaus{Vaate, 20, 20},
-                            Tapaus{Vaate, 21, 0}, Tapaus{Hunaja, 11, 0}, Tapaus{Viini, 13, 13}}) {
-        t.m.Kurssi.fill(0);
-        t.m.Kurssi[c.k] = static_cast<Integer>(c.ennen);
-        JonoonKävely(t);
-        Markkinat(t.peli);
-        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.ennen;
-    }
-    struct MaaTapaus { Maa maa; long ennen; long jälkeen; };
-    for (const MaaTapaus& c : {MaaTapaus{MaaPelto, 5000, 5000}, MaaTapaus{MaaPelto, 5001, 0},
-                               MaaTapaus{MaaJoutomaa, 2500, 2500}, MaaTapaus{MaaJoutomaa, 2501, 0},
-                               MaaTapaus{MaaLaidun, 4001, 0}}) {
-        t.m.MaaKurssi.fill(0);
-        t.m.MaaKurssi[c.maa] = c.ennen;
-        JonoonKävely(t);
-        Markkinat(t.peli);
-        EXPECT_EQ(t.m.MaaKurssi[c.maa], c.jälkeen) << MAATAULU[c.maa].avain << " " << c.ennen;
-    }
-    // Nothing was held, so nothing was told.
-    EXPECT_TRUE(t.Tapahtumat().empty());
-}
-
-TEST_F(Markkinapeli, FeedIsHeldDownBefore1983AndCrashesSilentlyAfter) {
-    struct Tapaus { int vuosi; int ennen; int jälkeen; };
-    for (const Tapaus& c : {Tapaus{1982, 3, 3}, Tapaus{1982, 4, 3}, Tapaus{1982, 9, 3}, Tapaus{1983, 4, 4},
-                            Tapaus{1983, 5, 5}, Tapaus{1983, 6, 0}}) {
-        t.m.Vuosi = static_cast<Integer>(c.vuosi);
-        t.m.Var[Rehu] = 5000;
-        t.m.Kurssi[Rehu] = static_cast<Integer>(c.ennen);
-        JonoonKävely(t);
-        Markkinat(t.peli);
-        EXPECT_EQ(t.m.Kurssi[Rehu], c.jälkeen) << c.vuosi << " " << c.ennen;
-        EXPECT_TRUE(t.Tapahtumat().empty()) << "feed never makes the news";
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
-    }
-}
-
 TEST_F(Markkinapeli, TheLastCrashInTheCheckOrderNamesTheNews) {
-    struct Tapaus {
-        std::map<Tuote, int> kurssit;
-        std::map<Tuote, float> varastot;
-        float laidun;
-        std::map<Maa, long> maakurssit;
-        std::string sana;
-    };
-    const std::vector<Tapaus> tapaukset{
-        // Milk held, meat not: meat still names the news.
-        {{{Maito, 6}, {Liha, 9}}, {{Maito, 10}}, 0, {}, "Lihan"},
+    struct Tapaus { std::map<Tuote, int> kurssit; std::map<Tuote, float> varastot; float laidun; std::map<Maa, long> maakurssit; std::string sana; };
+    const Tapaus tapaukset[] = {
         // Cheese is checked after manure although it walks before it.
         {{{Juusto, 14}, {Lanta, 6}}, {{Lanta, 1}}, 0, {}, "Juuston"},
         // A feed crash overwrites the word although it marks nothing.
@@ -122,9 +68,7 @@ TEST_F(Markkinapeli, TheLastCrashInTheCheckOrderNamesTheNews) {
         {{{Maito, 6}}, {}, 2, {{MaaLaidun, 4001}}, "Laidunmaan"},
     };
     for (const Tapaus& c : tapaukset) {
-        t.m.Kurssi.fill(0);
-        t.m.MaaKurssi.fill(0);
-        t.m.Var.fill(0);
+        t.m.Kurssi.fill(0), t.m.MaaKurssi.fill(0), t.m.Var.fill(0);
         t.m.Laidun = c.laidun;
         for (auto [k, v] : c.kurssit) t.m.Kurssi[k] = static_cast<Integer>(v);
         for (auto [k, v] : c.varastot) t.m.Var[k] = v;
@@ -148,8 +92,6 @@ TEST_F(Markkinapeli, TheStoryDrawPicksOneOfFive) {
                       "tuotannon suhteen?"},
           Tapaus{0.2, "Maidon hinta romahti alas. Tämä oli jo ennalta odotettua liian korkean hinnan suhteen "
                       "arvioivat asiantuntijat."},
-          Tapaus{0.59, "Maidon kurssi romahti kerralla alas. Suuren hinnan jälkeen inflaatio nakersi Maidon hinnan "
-                       "suureen alamäkeen."},
           Tapaus{0.6, "Kurssit laskivat roimasti. Maidon hinta teki tänään roiman laskun pörssissä. Maatalous "
                       "saattaa kärsiä tästä, mutta ostajat ovat tyytyväisiä."},
           Tapaus{0.99, "Suuri kurssiromahdus tänään. Maidon kurssi tipahti alas tänään iltapäivällä. "
@@ -159,56 +101,46 @@ TEST_F(Markkinapeli, TheStoryDrawPicksOneOfFive) {
         JonoonKävely(t);
         t.peli.arvonta.Jonoon(c.r);
         Markkinat(t.peli);
-        const auto tapahtumat = t.Tapahtumat();
-        ASSERT_EQ(tapahtumat.size(), 2u);
-        EXPECT_EQ(tapahtumat[1], "IKKUNA|Kuvat/sattumat/lehti.jpg|" + c.tarina) << c.r;
-        EXPECT_EQ(t.peli.näkymä.IkkunaTeksti, c.tarina);
+        EXPECT_EQ(t.Tapahtumat().at(1), "IKKUNA|Kuvat/sattumat/lehti.jpg|" + c.tarina) << c.r;
     }
 }
 
-TEST_F(Markkinapeli, ACrashOfWhatIsNotHeldDrawsNoStory) {
-    t.m.Kurssi[Maito] = 6;
-    t.m.Kurssi[Liha] = 9;
-    t.m.Var[Villa] = 100;  // held, but wool doesn't crash
-    JonoonKävely(t);
-    t.peli.arvonta.Jonoon(0.5);
-    Markkinat(t.peli);
-    EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);
-    EXPECT_TRUE(t.Tapahtumat().empty());
-    EXPECT_EQ(t.m.Kurssi[Maito], 0);
-    EXPECT_EQ(t.m.Kurssi[Liha], 0);
-}
-
-TEST(Markkinat, LowerBoundsSendAnIndexBackToZeroOrFeedToOne) {
+TEST(Markkinat, CrashesAboveTheLimitBoundsBelowAndFeedHeldDownBefore1983) {
     testi::Testipeli t;
-    t.Aloita("Testi", 2);  // the hardest level: manure's base price 1, feed's 5, waste land's 7000
-    ASSERT_EQ(t.m.PerusHinta[Lanta], 1);
-    ASSERT_EQ(t.m.PerusHinta[Rehu], 5);
-    ASSERT_EQ(t.m.PerusMaa[MaaJoutomaa], 7000);
+    t.Aloita("Testi", 2);  // the hardest level: products cheaper, feed and land dearer
+    ASSERT_EQ((std::array<long, 3>{t.m.PerusHinta[Lanta], t.m.PerusHinta[Rehu], t.m.PerusMaa[MaaJoutomaa]}),
+              (std::array<long, 3>{1, 5, 7000}));  // manure, feed, waste land
     t.m.Var.fill(0);
-    struct Tapaus { Tuote k; int ennen; int jälkeen; };
-    for (const Tapaus& c : {Tapaus{Lanta, -2, 0}, Tapaus{Lanta, -1, -1}, Tapaus{Turkki, -100, -100},
-                            Tapaus{Turkki, -101, 0}, Tapaus{Vaate, -20, -20}, Tapaus{Vaate, -21, 0},
-                            Tapaus{Leipä, -11, 0}, Tapaus{Makkara, -7, 0}, Tapaus{Makkara, -6, -6},
-                            Tapaus{Leivos, -8, 0}, Tapaus{Rehu, -4, -4}, Tapaus{Rehu, -5, 1}, Tapaus{Rehu, -9, 1},
-                            Tapaus{Maito, -4, 0}, Tapaus{Maito, -3, -3}}) {
+    t.m.Var[Rehu] = 5000;  // feed is held, but never makes the news
+    struct Tapaus { Tuote k; int vuosi, ennen, jälkeen; };
+    for (const Tapaus& c : {
+             Tapaus{Maito, 1984, 5, 5}, {Maito, 1984, 6, 0}, {Turkki, 1984, 150, 150}, {Turkki, 1984, 151, 0},
+             {Lauta, 1984, 26, 0}, {Vaate, 1984, 20, 20}, {Hunaja, 1984, 11, 0}, {Viini, 1984, 13, 13},
+             {Rehu, 1982, 4, 3}, {Rehu, 1982, 9, 3}, {Rehu, 1983, 5, 5}, {Rehu, 1983, 6, 0},  // feed's own rule
+             // Lower bounds: a price below 0, an index below its bound, a feed price below 1.
+             {Lanta, 1984, -2, 0}, {Lanta, 1984, -1, -1}, {Turkki, 1984, -100, -100}, {Turkki, 1984, -101, 0},
+             {Vaate, 1984, -21, 0}, {Makkara, 1984, -6, -6}, {Rehu, 1984, -4, -4}, {Rehu, 1984, -5, 1}}) {
         t.m.Kurssi.fill(0);
+        t.m.Vuosi = static_cast<Integer>(c.vuosi);
         t.m.Kurssi[c.k] = static_cast<Integer>(c.ennen);
         t.peli.arvonta.TyhjennäJono();
         JonoonKävely(t);
+        t.peli.arvonta.Jonoon(0.5);  // a story's draw, left alone when nothing held crashed
         Markkinat(t.peli);
-        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.ennen;
+        EXPECT_EQ(t.m.Kurssi[c.k], c.jälkeen) << TUOTETAULU[c.k].avain << " " << c.vuosi << " " << c.ennen;
+        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);
     }
-    struct MaaTapaus { Maa maa; long ennen; long jälkeen; };
-    for (const MaaTapaus& c : {MaaTapaus{MaaJoutomaa, -3001, 0}, MaaTapaus{MaaJoutomaa, -3000, -3000},
-                               MaaTapaus{MaaPelto, -6001, 0}, MaaTapaus{MaaPelto, -6000, -6000},
-                               MaaTapaus{MaaLaidun, -4001, 0}}) {
+    struct MaaTapaus { Maa maa; long ennen, jälkeen; };
+    for (const MaaTapaus& c : {MaaTapaus{MaaPelto, 5000, 5000}, {MaaPelto, 5001, 0}, {MaaJoutomaa, 2501, 0},
+                               {MaaJoutomaa, -3001, 0}, {MaaJoutomaa, -3000, -3000}, {MaaLaidun, -4001, 0}}) {
         t.m.MaaKurssi.fill(0);
         t.m.MaaKurssi[c.maa] = c.ennen;
+        t.peli.arvonta.TyhjennäJono();
         JonoonKävely(t);
         Markkinat(t.peli);
         EXPECT_EQ(t.m.MaaKurssi[c.maa], c.jälkeen) << MAATAULU[c.maa].avain << " " << c.ennen;
     }
+    EXPECT_TRUE(t.Tapahtumat().empty());
 }
 
 TEST(Markkinat, FirstWalkStartsFromZeroWithWiderStepsAndLeavesPastureOut) {
@@ -220,66 +152,23 @@ TEST(Markkinat, FirstWalkStartsFromZeroWithWiderStepsAndLeavesPastureOut) {
     EnsimmäinenKurssi(t.peli);
     EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u) << "23 draws: pasture land takes none";
     struct Tapaus { Tuote k; int odotettu; };
-    for (const Tapaus& c : {Tapaus{Maito, 1}, Tapaus{Liha, 2}, Tapaus{Turkki, 16}, Tapaus{Vaate, 7},
-                            Tapaus{Leivos, 3}, Tapaus{Leipä, 4}, Tapaus{Jauho, 3}, Tapaus{Makkara, 4}})
+    for (const Tapaus& c : {Tapaus{Maito, 1}, {Liha, 2}, {Turkki, 16}, {Vaate, 7}, {Leivos, 3}, {Leipä, 4}, {Makkara, 4}})
         EXPECT_EQ(t.m.Kurssi[c.k], c.odotettu) << TUOTETAULU[c.k].avain;
-    EXPECT_EQ(t.m.MaaKurssi[MaaPelto], 300);
-    EXPECT_EQ(t.m.MaaKurssi[MaaMetsä], 300);
-    EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], 150);
-    EXPECT_EQ(t.m.MaaKurssi[MaaLaidun], 0);
-}
-
-TEST(Markkinat, FirstWalkTakesItsDrawsInTheWalkOrder) {
-    testi::Testipeli t;
-    t.Aloita();
-    // Only the fur's draw (the fifth) is high; the others are the lowest.
+    EXPECT_EQ(t.m.MaaKurssi, (std::array<Long, MAITA>{300, 300, 150, 0}));
+    // In the walk's order: only the fur's draw (the fifth) is high.
+    t.peli.arvonta.TyhjennäJono();
     for (int i = 0; i < 23; ++i) t.peli.arvonta.Jonoon(i == 4 ? 0.98 : 0.0);
     EnsimmäinenKurssi(t.peli);
     EXPECT_EQ(t.m.Kurssi[Turkki], 25);  // 49 - 24
-    EXPECT_EQ(t.m.Kurssi[Muna], -1);
     EXPECT_EQ(t.m.Kurssi[Vaate], -9);
     EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], -250);
 }
 
-TEST(PörssiRaportti, PrintsTheIndicesTheAverageAndTheOutlook) {
-    testi::Testipeli t;
-    t.Aloita();
-    t.m.Kurssi.fill(0);
-    t.m.Päivä = 14;
-    t.m.Kuukausi = 3;
-    t.m.Vuosi = 1982;
-    t.m.Kurssi[Muna] = -1;
-    t.m.Kurssi[Turkki] = 120;
-    t.m.Kurssi[Lanta] = 4;
-    t.m.Kurssi[Hunaja] = 9;  // no line of its own, but in the average
-    t.Tapahtumat();
-    PörssiRaportti(t.peli);
-    const auto tapahtumat = t.Tapahtumat();
-    ASSERT_EQ(tapahtumat.size(), 1u + 18 + 3);
-    EXPECT_EQ(tapahtumat[0], "RAPORTTI| Pörssikurssit : 14. 3. 1982");
-    EXPECT_EQ(tapahtumat[1], "RIVI|0,0,0|0|         Maito     :  0");
-    EXPECT_EQ(tapahtumat[4], "RIVI|0,0,0|0|         Kananmuna : -1");
-    EXPECT_EQ(tapahtumat[5], "RIVI|0,0,0|0|         Turkikset :  120");
-    EXPECT_EQ(tapahtumat[7], "RIVI|0,0,0|0|         Raakapuu  :  0");
-    EXPECT_EQ(tapahtumat[13], "RIVI|0,0,0|0|         Lannoite  :  4");
-    EXPECT_EQ(tapahtumat[18], "RIVI|0,0,0|0|         Viini     :  0");
-    EXPECT_EQ(tapahtumat[19], "RIVI|0,0,0|0|         ");
-    // (120 + 4 + 9 - 1) / 19 = 6.9 -> 6
-    EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|0|         Keskiarvo :  6");
-    EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|0|         Yleinen talousnäkymä : Neutraali");
-    ASSERT_EQ(t.kanavat.raportit.size(), 1u);
-    EXPECT_EQ(t.kanavat.raportit[0].fonttikoko, 10);
-    EXPECT_TRUE(t.peli.näkymä.RaporttiAuki);
-    EXPECT_FALSE(t.peli.näkymä.PankkiKäytössä);
-}
-
 TEST(PörssiRaportti, OutlookByTheAverageOverNineteen) {
     struct Tapaus { int summa; std::string keskiarvo; std::string näkymä; };
-    for (const Tapaus& c : {Tapaus{17 * 19, " 17", "Huippukausi!"}, Tapaus{16 * 19 + 18, " 16", "Nousukausi"},
-                            Tapaus{9 * 19, " 9", "Nousukausi"}, Tapaus{8 * 19 + 18, " 8", "Neutraali"},
-                            Tapaus{6 * 19, " 6", "Neutraali"}, Tapaus{5 * 19 + 18, " 5", "Laskusuhdanne"},
-                            Tapaus{19, " 1", "Laskusuhdanne"}, Tapaus{18, " 0", "Lama!"},
-                            Tapaus{-1, "-1", "Lama!"}}) {
+    for (const Tapaus& c : {Tapaus{17 * 19, " 17", "Huippukausi!"}, {16 * 19 + 18, " 16", "Nousukausi"},
+                            {9 * 19, " 9", "Nousukausi"}, {8 * 19 + 18, " 8", "Neutraali"}, {6 * 19, " 6", "Neutraali"},
+                            {5 * 19 + 18, " 5", "Laskusuhdanne"}, {19, " 1", "Laskusuhdanne"}, {-1, "-1", "Lama!"}}) {
         testi::Testipeli t;
         t.Aloita();
         t.m.Kurssi.fill(0);
@@ -287,10 +176,42 @@ TEST(PörssiRaportti, OutlookByTheAverageOverNineteen) {
         t.Tapahtumat();
         PörssiRaportti(t.peli);
         const auto tapahtumat = t.Tapahtumat();
-        ASSERT_EQ(tapahtumat.size(), 22u);
+        ASSERT_EQ(tapahtumat.size(), 22u);  // the title, 18 products, a blank line, the average, the outlook
         EXPECT_EQ(tapahtumat[20], "RIVI|0,0,0|0|         Keskiarvo : " + c.keskiarvo) << c.summa;
         EXPECT_EQ(tapahtumat[21], "RIVI|0,0,0|0|         Yleinen talousnäkymä : " + c.näkymä) << c.summa;
+        EXPECT_EQ(t.kanavat.raportit.at(0).fonttikoko, 10);
+        EXPECT_FALSE(t.peli.näkymä.PankkiKäytössä) << "the bank waits for the page to close";
     }
+}
+
+TEST(PerusHinnat, EachSupplyRaisesItsOwnProductsOnly) {
+    struct Tapaus { Tarvike tarvike; std::map<Tuote, int> lisät; };
+    const Tapaus tapaukset[] = {
+        {Kutomakone, {{Vaate, 1}}}, {Kirnu, {{Juusto, 1}, {Maito, 1}}}, {Teollisuusuuni, {{Leipä, 1}, {Leivos, 1}}},
+        {Kylmiö, {{Makkara, 2}, {Liha, 1}}}, {Käymissäiliö, {{Viini, 2}}}, {Turkiskuivaamo, {{Turkki, 100}}},
+        {Lypsykone, {}},  // a machine of the herd, no price
+    };
+    testi::Testipeli t;
+    t.Aloita("Testi", 1);
+    t.m.Tarv.fill(false);
+    PerusHinnat(t.peli);
+    const auto perus = t.m.PerusHinta;
+    for (const Tapaus& c : tapaukset) {
+        t.m.Tarv.fill(false);
+        t.m.Tarv[c.tarvike] = true;
+        PerusHinnat(t.peli);
+        for (std::size_t k = 0; k < TUOTTEITA; ++k) {
+            const auto it = c.lisät.find(static_cast<Tuote>(k));
+            EXPECT_EQ(t.m.PerusHinta[k], perus[k] + (it == c.lisät.end() ? 0 : it->second))
+                << c.tarvike << " " << TUOTETAULU[k].avain;
+        }
+    }
+    // All together milk takes three; a second run starts again from the table.
+    t.m.Tarv.fill(true);
+    PerusHinnat(t.peli);
+    PerusHinnat(t.peli);
+    EXPECT_EQ(t.m.PerusHinta[Maito], perus[Maito] + 3);
+    EXPECT_EQ(t.m.PerusHinta[Turkki], perus[Turkki] + 150);
 }
 
 }  // namespace

@@ -119,11 +119,11 @@ TEST(Runner, ReadsAndTampersWithTheDataFolderBytes) {
 TEST(Runner, SetStoresByWidthAndPrintsWithoutTheBlank) {
     const Ajo ajo = Aja(
         "new Matti Vapaa 1 on\nevents\nset Raha 3.5\nset Hygienia 4.5\nset Viikonloppu True\nset Raha -2\n"
-        "set Tuotteet.MyyMaitoTyyli Puolet\nprint Raha Hygienia Viikonloppu Tuotteet.MyyMaitoTyyli\n"
+        "set Vuodenaika Talvi\nprint Raha Hygienia Viikonloppu Vuodenaika\n"
         "set Päivä 300\nset Raha kolme\nprint Päivä Raha\nevents\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
     EXPECT_EQ(ajo.ulos,
-              "Raha=-2\nHygienia=4\nViikonloppu=True\nTuotteet.MyyMaitoTyyli=Puolet\nPäivä=1\nRaha=-2\n"
+              "Raha=-2\nHygienia=4\nViikonloppu=True\nVuodenaika=Talvi\nPäivä=1\nRaha=-2\n"
               "ÄÄNI|virhe\nVIKA|Tuntematon / määrittämätön|6|Kyllä\nÄÄNI|virhe\nVIKA|Tuntematon / määrittämätön|13|Kyllä\n");
 }
 

@@ -76,7 +76,10 @@ inline constexpr std::string_view OHJE_COMMAND1 = "Sulje tuotteet valikko ja pal
 inline constexpr std::string_view LISÄ_LANTA = "Käytä lannoitetta pelloissasi.";
 inline constexpr std::string_view LISÄ_LAUTA = "Käytä lautoja hyödyksi, kun rakennat rakennuksia.";
 
-// The slider's text of the time of the automatic sale, by Tuotteet.rulla.
+// The heading of the accountant's panel.
+inline constexpr std::string_view TAULUN_OTSIKKO = "Kirjanpitäjän automaattinen myynti";
+
+// The text beside the box of the time of the automatic sale, by Tuotteet.rulla.
 inline constexpr std::array<std::string_view, 2> MYYNTIAJAT{"joka kuukausi", "joka viikko"};
 
 }  // namespace tuoteruutu
