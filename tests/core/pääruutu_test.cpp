@@ -8,7 +8,7 @@
 namespace tanhua {
 namespace {
 
-TEST(MainScreen, MoneyFormatByRange) {
+TEST(MainScreen, MoneyAndTemperatureFormats) {
     struct Tapaus { double raha; const char* pääruutu; const char* kyltti; };
     for (const Tapaus& c : {Tapaus{999999.6, "1000000", " 999999.6"}, {-2000000, "-2000000", "-2000000"},
                             {10000.5, "10000", " 10000.5"}, {10001.5, "10002", " 10001.5"},
@@ -17,17 +17,11 @@ TEST(MainScreen, MoneyFormatByRange) {
         EXPECT_EQ(RahaMuoto(c.raha), c.pääruutu) << c.raha;
         EXPECT_EQ(RahaKylttiMuoto(c.raha), c.kyltti) << c.raha;
     }
-}
-
-TEST(MainScreen, TemperatureTextAndColour) {
-    struct Tapaus { int t; const char* teksti; int r, g, b; };
-    for (const Tapaus& c : {Tapaus{20, "+ 20 °c", 225, 80, 40}, {0, "+ 0 °c", 125, 120, 0},
+    struct Lämpö { int t; const char* teksti; int r, g, b; };
+    for (const Lämpö& c : {Lämpö{20, "+ 20 °c", 225, 80, 40}, {0, "+ 0 °c", 125, 120, 0},
                             {-5, "-5 °c", 170, 105, 255}, {-40, "-40 °c", 0, 0, 255}, {40, "+ 40 °c", 255, 40, 80}}) {
         const LämpötilaNäyttö n = AsteLuku(c.t);
-        EXPECT_EQ(n.teksti, c.teksti);
-        EXPECT_EQ(n.r, c.r) << c.t;
-        EXPECT_EQ(n.g, c.g) << c.t;
-        EXPECT_EQ(n.b, c.b) << c.t;
+        EXPECT_EQ(std::tuple(n.teksti, n.r, n.g, n.b), std::tuple(std::string(c.teksti), c.r, c.g, c.b)) << c.t;
     }
 }
 
@@ -40,20 +34,14 @@ TEST(MainScreen, GaugesAndTheirGuards) {
     t.m.Hygienia = 70;
     Päivitälukemat(t.peli);
     const auto& g = t.peli.näkymä.lukemat.mittarit;
-    EXPECT_EQ(g[0].p, 50);
-    EXPECT_EQ(g[1].p, 150);
-    EXPECT_EQ(g[2].p, 50);
-    EXPECT_EQ(g[3].p, 70);
+    EXPECT_EQ(std::tuple(g[0].p, g[1].p, g[2].p, g[3].p), std::tuple(50, 150, 50, 70));
+    // A size of nothing or below is put right and its gauge left undrawn; negative feed becomes 0.
     t.m.Koko_Navetta = 0;
     t.m.Koko_Varasto = -3;
     t.m.Var[Rehu] = -2;
     Päivitälukemat(t.peli);
-    EXPECT_FALSE(g[1].piirretään);
-    EXPECT_FALSE(g[2].piirretään);
-    EXPECT_TRUE(g[0].piirretään);
-    EXPECT_EQ(t.m.Koko_Navetta, 10);
-    EXPECT_EQ(t.m.Koko_Varasto, 100);
-    EXPECT_EQ(t.m.Var[Rehu], 0);
+    EXPECT_EQ(std::tuple(g[0].piirretään, g[1].piirretään, g[2].piirretään), std::tuple(true, false, false));
+    EXPECT_EQ(std::tuple(t.m.Koko_Navetta, t.m.Koko_Varasto, t.m.Var[Rehu]), std::tuple(10, 100, 0));
     // While a sub-screen is open nothing on the main screen changes.
     t.peli.näkymä.PääruutuNäkyvissä = false;
     t.m.Raha = 1;

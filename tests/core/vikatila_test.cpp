@@ -24,31 +24,30 @@ TEST(FailureReporter, BuildsTheBoxTextLineByLine) {
         "korjaantuu palauttamalla tiedosto takaisin tai asentamalla pelin uudestaan.\n\n" +
         väli + "Yritetäänkö jatkaa virhetilanteesta, vai ohitetaanko ongelmakohta?";
     EXPECT_EQ(t.kanavat.viimeisinVikateksti, odotettu);
-    EXPECT_EQ(t.m.VikaPaikka, "");
-    EXPECT_EQ(t.m.VikaLaskuri, 1);
-    EXPECT_TRUE(t.m.VikaJatkuu);
-}
-
-TEST(FailureReporter, AnEmptyPlaceIsUnknownEachTime) {
-    Testipeli t;
-    VikaTila(t.peli, Vika(6, "Overflow"));
-    VikaTila(t.peli, Vika(6, "Overflow"));
-    const auto tapahtumat = t.Tapahtumat();
-    ASSERT_EQ(tapahtumat.size(), 2u);
-    for (const auto& rivi : tapahtumat) EXPECT_EQ(rivi, "VIKA|Tuntematon / määrittämätön|6|Kyllä");
+    EXPECT_EQ(std::tuple(t.m.VikaPaikka, t.m.VikaLaskuri, t.m.VikaJatkuu), std::tuple(std::string(), Long{1}, true));
+    // Opening a save of another version explains the difference instead of the failure's own solution.
+    for (const auto& [tilanteen, versioteksti] : {std::pair{1.4f, true}, {1.5f, false}}) {
+        Testipeli avaus;
+        avaus.m.Versio = 1.5f;
+        avaus.m.TilanteenVersio = tilanteen;
+        avaus.m.VikaPaikka = std::string(paikka::Avaus);
+        VikaTila(avaus.peli, Vika(62, "Input past end of file"));
+        const std::string& teksti = avaus.kanavat.viimeisinVikateksti;
+        EXPECT_EQ(teksti.find("Tämän tanhuan versio on  1.5 ja ladattavan tilanteen data:n mukaan tilanteen "
+                              "versio on  1.4. Joudut") != std::string::npos, versioteksti);
+        EXPECT_EQ(teksti.find("Tiedosto jota avattiin on väärän kokoinen") != std::string::npos, !versioteksti);
+    }
 }
 
 TEST(FailureReporter, WarnsFromTheFifthAndFallsSilentAfterTheEighth) {
     Testipeli t;
     t.peli.asetukset.Äänitehosteet = true;
-    for (int i = 0; i < 7; ++i) t.kanavat.vastaukset.push_back("Kyllä");
-    t.kanavat.vastaukset.push_back("Ei");
     for (int i = 1; i <= 8; ++i) {
+        t.kanavat.vastaukset.push_back(i < 8 ? "Kyllä" : "Ei");
         VikaTila(t.peli, Vika(6, "Overflow"));
         const std::string varoitus = "Huom! pelissä on tullut jo " + std::to_string(i) + " ongelmaa.";
         EXPECT_EQ(t.kanavat.viimeisinVikateksti.find(varoitus) != std::string::npos, i > 4) << i;
     }
-    EXPECT_FALSE(t.m.VikaJatkuu);
     t.Tapahtumat();
     t.kanavat.vastaukset.push_back("Kyllä");
     VikaTila(t.peli, Vika(6, "Overflow"));
@@ -57,24 +56,8 @@ TEST(FailureReporter, WarnsFromTheFifthAndFallsSilentAfterTheEighth) {
     EXPECT_EQ(t.m.VikaLaskuri, 9);
 }
 
-TEST(FailureReporter, AVersionDifferenceExplainsItselfWhenOpeningASave) {
-    struct Tapaus { float tilanteen; bool versioteksti; };
-    for (const Tapaus& c : {Tapaus{1.4f, true}, {1.5f, false}}) {
-        Testipeli t;
-        t.m.Versio = 1.5f;
-        t.m.TilanteenVersio = c.tilanteen;
-        t.m.VikaPaikka = std::string(paikka::Avaus);
-        VikaTila(t.peli, Vika(62, "Input past end of file"));
-        const std::string& teksti = t.kanavat.viimeisinVikateksti;
-        EXPECT_EQ(teksti.find("Tämän tanhuan versio on  1.5 ja ladattavan tilanteen data:n mukaan tilanteen "
-                              "versio on  1.4. Joudut") != std::string::npos, c.versioteksti);
-        EXPECT_EQ(teksti.find("Tiedosto jota avattiin on väärän kokoinen") != std::string::npos, !c.versioteksti);
-    }
-}
-
 TEST(FailureReporter, ASoundFailureShowsItsOwnBoxAndNeverTheReporter) {
     Testipeli t;
-    t.peli.asetukset.Äänitehosteet = true;
     struct Kanava : TallentavatKanavat {
         void Ääni(const std::string&) override { throw Vika(53, "File not found"); }
     } rikki;
@@ -82,7 +65,7 @@ TEST(FailureReporter, ASoundFailureShowsItsOwnBoxAndNeverTheReporter) {
     peli.asetukset.Äänitehosteet = true;
     VikaTila(peli, Vika(6, "Overflow"));
     ASSERT_EQ(rikki.tapahtumat.size(), 2u);
-    EXPECT_EQ(rikki.tapahtumat[0].rfind("LAATIKKO|Tanhua on suorittanut virhetilan. Ongelman syynä on virhetila wav", 0), 0u);
+    EXPECT_TRUE(rikki.tapahtumat[0].starts_with("LAATIKKO|Tanhua on suorittanut virhetilan. Ongelman syynä on virhetila wav"));
     EXPECT_EQ(rikki.tapahtumat[1], "VIKA|Tuntematon / määrittämätön|6|Kyllä");
     EXPECT_EQ(peli.m.VikaLaskuri, 1);
 }
