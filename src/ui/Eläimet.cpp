@@ -19,19 +19,8 @@ namespace tanhua::ui {
 namespace {
 
 // What a control of the screen shows, as the library works it out.
-Ohjain Lue(const Peli& peli, const std::string& nimi) {
-    const auto o = LueOhjain(peli, "Eläimet." + nimi);
-    return o ? *o : Piilossa();
-}
-
-// A label or a button takes its control's text and visibility.
-void Näytä(const Peli& peli, QWidget* w, const std::string& nimi) {
-    const Ohjain o = Lue(peli, nimi);
-    if (auto* l = qobject_cast<QLabel*>(w)) l->setText(QString::fromStdString(o.arvo));
-    else if (auto* b = qobject_cast<QAbstractButton*>(w)) b->setText(QString::fromStdString(o.arvo));
-    w->setVisible(o.näkyvissä);
-    w->setEnabled(o.käytössä);
-}
+Ohjain Lue(const Peli& peli, const std::string& nimi) { return LueRuudulta(peli, "Eläimet", nimi); }
+void Näytä(const Peli& peli, QWidget* w, const std::string& nimi) { ui::Näytä(w, Lue(peli, nimi)); }
 
 QString Väri(std::uint32_t v) {
     return QString("rgb(%1,%2,%3)").arg(v & 0xFF).arg((v >> 8) & 0xFF).arg((v >> 16) & 0xFF);

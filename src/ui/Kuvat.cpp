@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QHash>
 #include <QBoxLayout>
+#include <QCheckBox>
+#include <QSignalBlocker>
 #include <QImageReader>
 #include <QPainter>
 
@@ -145,6 +147,23 @@ void Tausta::paintEvent(QPaintEvent*) {
     const QRect kohde((width() - koko.width()) / 2, (height() - koko.height()) / 2, koko.width(), koko.height());
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     p.drawPixmap(kohde, kuva_);
+}
+
+Ohjain LueRuudulta(const Peli& peli, std::string_view ruutu, const std::string& nimi) {
+    return LueOhjain(peli, std::string(ruutu) + "." + nimi).value_or(Piilossa());
+}
+
+void Näytä(QWidget* w, const Ohjain& o) {
+    if (auto* c = qobject_cast<QCheckBox*>(w)) {
+        const QSignalBlocker esto(c);
+        c->setChecked(o.arvo == "True");
+    } else if (auto* l = qobject_cast<QLabel*>(w)) {
+        l->setText(Q(o.arvo));
+    } else if (auto* b = qobject_cast<QAbstractButton*>(w)) {
+        b->setText(Q(o.arvo));
+    }
+    w->setVisible(o.näkyvissä);
+    w->setEnabled(o.käytössä);
 }
 
 }  // namespace tanhua::ui

@@ -2,6 +2,7 @@
 #pragma once
 
 // own
+#include "core/ohjaimet.h"
 #include "core/peli.h"
 // Qt
 #include <QPixmap>
@@ -41,6 +42,13 @@ QLabel* AiheOtsikko(const QString& teksti, QWidget* vanhempi);
 // The frame of a sub-screen: the label aihe at the top (room left for the money plate), the main
 // panel left and the column of panels right, the hint line and the close button at the bottom.
 void AsetteleAlaruutu(QWidget* ruutu, QLabel* aihe, QWidget* vasen, QLayout* oikea, QLabel* ohje, QPushButton* sulje);
+// A control of a screen as the game reads it (screen "Eläimet", control "Kuva(3)"); a name the
+// screen doesn't register reads as hidden.
+Ohjain LueRuudulta(const Peli& peli, std::string_view ruutu, const std::string& nimi);
+// A widget takes its control: a check box its state, a label or button its text, and whether it
+// shows and takes clicks.
+void Näytä(QWidget* w, const Ohjain& o);
+
 // A text of a table as Qt text.
 QString Sv(std::string_view s);
 

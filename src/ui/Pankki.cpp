@@ -18,7 +18,7 @@ namespace tanhua::ui {
 
 namespace {
 // A control of the screen as the game says it shows.
-Ohjain O(const Peli& peli, const QObject* w) { return *LueOhjain(peli, "Pankki." + w->objectName().toStdString()); }
+Ohjain O(const Peli& peli, const QObject* w) { return LueRuudulta(peli, "Pankki", w->objectName().toStdString()); }
 
 QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
     auto* n = new QPushButton(vanhempi);

@@ -21,22 +21,12 @@ std::string Rakennukset::PäiväLabel(std::size_t kohde) {
 
 namespace {
 // A control of this screen as the game reads it.
-Ohjain Lue(const Peli& peli, const std::string& nimi) { return LueOhjain(peli, "Rakennukset." + nimi).value_or(Piilossa()); }
+Ohjain Lue(const Peli& peli, const std::string& nimi) { return LueRuudulta(peli, "Rakennukset", nimi); }
 
 std::string Kuvatiedosto(const Peli& peli, std::size_t kohde) {
     return "Kuvat/Rakennukset/" + Lue(peli, "Picture(" + std::to_string(KuvanNumero(kohde)) + ")").arvo;
 }
 
-// A label shows its control's text, and hides with it.
-void Näytä(QLabel* label, const Ohjain& o) {
-    label->setText(Q(o.arvo));
-    label->setVisible(o.näkyvissä);
-}
-void Näytä(QPushButton* nappi, const Ohjain& o) {
-    nappi->setText(Q(o.arvo));
-    nappi->setVisible(o.näkyvissä);
-    nappi->setEnabled(o.käytössä);
-}
 }  // namespace
 
 Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)

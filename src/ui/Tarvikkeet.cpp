@@ -16,19 +16,7 @@ namespace tanhua::ui {
 
 namespace {
 // A control of this screen as the game reads it.
-Ohjain Lue(const Peli& peli, const char* nimi) {
-    return LueOhjain(peli, std::string("Tarvikkeet.") + nimi).value_or(Piilossa());
-}
-
-void Näytä(QLabel* label, const Ohjain& o) {
-    label->setText(Q(o.arvo));
-    label->setVisible(o.näkyvissä);
-}
-void Näytä(QPushButton* nappi, const Ohjain& o) {
-    nappi->setText(Q(o.arvo));
-    nappi->setVisible(o.näkyvissä);
-    nappi->setEnabled(o.käytössä);
-}
+Ohjain Lue(const Peli& peli, const char* nimi) { return LueRuudulta(peli, "Tarvikkeet", nimi); }
 }  // namespace
 
 Tarvikkeet::Tarvikkeet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)

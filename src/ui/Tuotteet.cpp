@@ -19,25 +19,8 @@ namespace tanhua::ui {
 
 namespace {
 // What a control of the screen shows, as the library works it out.
-Ohjain Lue(const Peli& peli, const std::string& nimi) {
-    const auto o = LueOhjain(peli, "Tuotteet." + nimi);
-    return o ? *o : Piilossa();
-}
-
-// A widget takes its control's text (a check box its state) and its visibility.
-void Näytä(const Peli& peli, QWidget* w, const std::string& nimi) {
-    const Ohjain o = Lue(peli, nimi);
-    if (auto* c = qobject_cast<QCheckBox*>(w)) {
-        const QSignalBlocker esto(c);
-        c->setChecked(o.arvo == "True");
-    } else if (auto* l = qobject_cast<QLabel*>(w)) {
-        l->setText(QString::fromStdString(o.arvo));
-    } else if (auto* b = qobject_cast<QAbstractButton*>(w)) {
-        b->setText(QString::fromStdString(o.arvo));
-    }
-    w->setVisible(o.näkyvissä);
-    w->setEnabled(o.käytössä);
-}
+Ohjain Lue(const Peli& peli, const std::string& nimi) { return LueRuudulta(peli, "Tuotteet", nimi); }
+void Näytä(const Peli& peli, QWidget* w, const std::string& nimi) { ui::Näytä(w, Lue(peli, nimi)); }
 
 std::string Nro(const char* nimi, int i) { return std::string(nimi) + "(" + std::to_string(i) + ")"; }
 }  // namespace

@@ -15,15 +15,9 @@ namespace tanhua::ui {
 
 namespace {
 // A control of the screen as the game says it shows.
-Ohjain O(const Peli& peli, const char* nimi) { return *LueOhjain(peli, std::string("Työvoima.") + nimi); }
+Ohjain O(const Peli& peli, const char* nimi) { return LueRuudulta(peli, "Työvoima", nimi); }
 QString Arvo(const Peli& peli, const char* nimi) { return QString::fromStdString(O(peli, nimi).arvo); }
-// A label or button takes its text and whether it can be clicked from its control.
-void Näytä(const Peli& peli, QLabel* l, const char* nimi) { l->setText(Arvo(peli, nimi)); }
-void Näytä(const Peli& peli, QPushButton* b, const char* nimi) {
-    const Ohjain o = O(peli, nimi);
-    b->setText(QString::fromStdString(o.arvo));
-    b->setEnabled(o.käytössä);
-}
+void Näytä(const Peli& peli, QWidget* w, const char* nimi) { ui::Näytä(w, O(peli, nimi)); }
 }  // namespace
 
 Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)

@@ -10,12 +10,9 @@
 
 #include "buildings/taulut/rakennuskatalogi.h"
 #include "core/kentät.h"
+#include "ikkuna.h"
 #include "sim/skripti.h"
-#include "storage/tiedostot.h"
-#include "tuki/testipeli.h"
 #include "ui/Eläimet.h"
-#include "ui/Pääikkuna.h"
-#include "ui/QtKanavat.h"
 #include "ui/Pankki.h"
 #include "ui/Rakennukset.h"
 #include "ui/Tarvikkeet.h"
@@ -25,45 +22,7 @@
 namespace tanhua::ui {
 namespace {
 
-// A window on a fresh data folder seeded from the built program folder.
-struct Ikkuna {
-    Ikkuna() : kansiot{TANHUA_PROGRAM_DIR, kansio.polku() / "Data"}, kanavat(kansiot.ohjelma), peli(kanavat, kansiot) {
-        AlustaDatakansio(kansiot);
-        w = std::make_unique<Pääikkuna>(peli);
-        kanavat.Liitä(w.get());
-        w->lopetus = [this] { lopetettu = true; };
-        w->resize(1024, 768);
-        w->show();
-        // A box nobody expected is closed by the watchdog, and the test fails instead of hanging.
-        vahti.setInterval(1500);
-        QObject::connect(&vahti, &QTimer::timeout, [this] {
-            if (w->message()->isVisible()) {
-                odottamaton = peli.näkymä.MsgTeksti;
-                QTest::keyClick(w->message(), Qt::Key_E);
-            }
-        });
-        vahti.start();
-        w->Käynnistä();
-    }
-    ~Ikkuna() { EXPECT_EQ(odottamaton, "") << "a Message box nobody answered"; }
-    void Aloita(const char* nimi = "Matti") {
-        w->alku()->Nimesi()->setText(nimi);
-        QTest::keyClick(w->alku()->Nimesi(), Qt::Key_Return);
-    }
-    // Answers the next Message box with a key once it is open.
-    void VastaaNäppäimellä(Qt::Key näppäin) {
-        QTimer::singleShot(0, [this, näppäin] { QTest::keyClick(w->message(), näppäin); });
-    }
-
-    testi::Väliaikainen kansio;
-    Kansiot kansiot;
-    QtKanavat kanavat;
-    Peli peli;
-    std::unique_ptr<Pääikkuna> w;
-    QTimer vahti;
-    std::string odottamaton;
-    bool lopetettu = false;
-};
+using testi::Ikkuna;
 
 TEST(Window, StartsANewFarmFromTheStartScreen) {
     Ikkuna i;
@@ -316,7 +275,7 @@ std::string Tila(Peli& peli) {
 
 TEST(Window, TheWindowAndTheRunnerPlayTheSameFarmFromTheSameDraws) {
     // With the sounds on every click takes a draw: opening and leaving a screen, a box's answer.
-    testi::Väliaikainen kansio;
+    tanhua::testi::Väliaikainen kansio;
     Ajuri ajuri(Kansiot{TANHUA_PROGRAM_DIR, kansio.polku() / "Data"});
     std::istringstream skripti(
         "new Matti Vapaa 1 on\nset Äänitehosteet True\ncall Eläimet.Avaa\ncall Eläimet.ValitseEläin Kana\n"
