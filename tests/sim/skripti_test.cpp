@@ -6,6 +6,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "core/viestit.h"
 #include "sim/skripti.h"
 #include "tuki/testipeli.h"
 
@@ -133,6 +134,27 @@ TEST(Runner, TraceTellsWhereEachDrawWasTaken) {
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
     EXPECT_NE(ajo.ulos.find("ARVONTA|.25|core/päivä.cpp:"), std::string::npos) << ajo.ulos;
     EXPECT_NE(ajo.ulos.find("LISTA|Joululahjaksi  1050"), std::string::npos);
+}
+
+TEST(Runner, TellsAreasAndWaitingNewsAndKeepsTheSupplyListsWithTheFlags) {
+    testi::Testipeli t;
+    t.Aloita();
+    t.Tapahtumat();
+    // A printed area is told as a report page is; a waiting news window is closed at once.
+    t.kanavat.Alue({"Taulukko", 10, {{PUNAINEN, 3, "Maito  12"}, {MUSTA, 5, "Liha"}}});
+    KerroJaOdota(t.peli, "Kuvat/sattumat/joulu.jpg", "Sopimus\npäättyi");
+    EXPECT_FALSE(t.peli.näkymä.IkkunaNäkyvissä);
+    EXPECT_EQ(t.Tapahtumat(), (std::vector<std::string>{"ALUE|Taulukko", "RIVI|180,0,0|3|Maito  12", "RIVI|0,0,0|5|Liha",
+                                                         "IKKUNA|Kuvat/sattumat/joulu.jpg|Sopimus\\npäättyi"}));
+
+    testi::Väliaikainen kansio;
+    Ajuri ajuri(Kansiot{TANHUA_PROGRAM_DIR, kansio.polku() / "Data"});
+    std::ostringstream ulos;
+    for (const char* rivi : {"new A Vapaa 1 off", "set Tarv_Kirnu True", "call Jalostus Saha"}) ajuri.Rivi(rivi, ulos);
+    EXPECT_EQ(ajuri.peli().tarvikeruutu.Tavarat, std::vector<TarvikeRivinro>{static_cast<TarvikeRivinro>(Kirnu)});
+    // Outside a day the chain takes the store load for itself and leaves none standing.
+    EXPECT_FALSE(ajuri.peli().päivänKuorma);
+    EXPECT_THROW(ajuri.Rivi("call Jalostus Navetta", ulos), std::runtime_error) << "a store has no chain";
 }
 
 // Each scenario is a script beside its expected output; the first differing line is shown.
