@@ -41,11 +41,9 @@ std::string EläimenKuva(int kortti) {
 }
 
 void EläinruudunOhjaimet(Ohjainluettelo& l) {
-    auto yksi = [&l](const char* nimi, std::function<Ohjain(const Peli&)> f) {
-        l[std::string("Eläimet.") + nimi] = {[f](const Peli& p, int) { return f(p); }};
-    };
-    auto joukko = [&l](const char* nimi, int koko, std::function<Ohjain(const Peli&, int)> f) {
-        l[std::string("Eläimet.") + nimi] = {std::move(f), koko, 0};
+    const RuudunOhjaimet yksi(l, "Eläimet");
+    auto joukko = [&yksi](const char* nimi, int koko, std::function<Ohjain(const Peli&, int)> f) {
+        yksi.Taulukko(nimi, koko, 0, std::move(f));
     };
 
     // The herd: a picture and an adult counter for each card, the young and the cubs by kind, the sums.

@@ -36,11 +36,9 @@ Ohjain PäiväLabel(const Peli& p, std::size_t kohde) {
 }  // namespace
 
 void RakennusruudunOhjaimet(Ohjainluettelo& l) {
-    auto yksi = [&l](const std::string& nimi, std::function<Ohjain(const Peli&)> f) {
-        l["Rakennukset." + nimi] = {[f](const Peli& p, int) { return f(p); }};
-    };
+    const RuudunOhjaimet yksi(l, "Rakennukset");
     // Picture1 (Navetta) to Picture16 (Pakkaamo), the order the work orders are counted down in.
-    l["Rakennukset.Picture"] = {[](const Peli&, int i) { return Kuva(TYÖMAIDEN_JÄRJESTYS[i - 1]); }, TYÖMAITA, 1};
+    yksi.Taulukko("Picture", TYÖMAITA, 1, [](const Peli&, int i) { return Kuva(TYÖMAIDEN_JÄRJESTYS[i - 1]); });
     for (const std::size_t kohde : TYÖMAIDEN_JÄRJESTYS)
         yksi("Rakenne" + std::string(RAKENNUSKATALOGI[kohde].avain) + "z",
              [kohde](const Peli& p) { return PäiväLabel(p, kohde); });

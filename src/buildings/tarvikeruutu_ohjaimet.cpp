@@ -18,9 +18,7 @@ Ohjain Nappi(const Peli& p, std::string teksti) { return Näkyvä(std::move(teks
 }  // namespace
 
 void TarvikeruudunOhjaimet(Ohjainluettelo& l) {
-    auto yksi = [&l](const char* nimi, std::function<Ohjain(const Peli&)> f) {
-        l[std::string("Tarvikkeet.") + nimi] = {[f](const Peli& p, int) { return f(p); }};
-    };
+    const RuudunOhjaimet yksi(l, "Tarvikkeet");
     // The list buttons. The machines' button is not on the screen, so their list can't be shown.
     yksi("Command4", [](const Peli& p) { return Nappi(p, "Tarvikkeet"); });
     yksi("Command3", [](const Peli& p) { return Nappi(p, "Lisälaitteet"); });

@@ -20,6 +20,15 @@ const Ohjainluettelo& Ohjaimet() {
     return luettelo;
 }
 
+void RuudunOhjaimet::operator()(std::string_view nimi, std::function<Ohjain(const Peli&)> lue) const {
+    l_[ruutu_ + std::string(nimi)] = {[lue = std::move(lue)](const Peli& p, int) { return lue(p); }};
+}
+
+void RuudunOhjaimet::Taulukko(std::string_view nimi, int koko, int alku,
+                              std::function<Ohjain(const Peli&, int)> lue) const {
+    l_[ruutu_ + std::string(nimi)] = {std::move(lue), koko, alku};
+}
+
 namespace {
 // "Name(12)" split into the name and 12; a name without brackets gives -1.
 bool Jaa(const std::string& nimi, std::string& perus, int& indeksi) {

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tanhua {
 
@@ -32,6 +33,20 @@ struct OhjainKuvaus {
 
 // Keys are "Screen.control" ("Tanhua.AsteLuku", "Tanhua.TP_Kuva").
 using Ohjainluettelo = std::map<std::string, OhjainKuvaus, std::less<>>;
+
+// Registers one screen's controls under the screen's name ("Pankki" gives "Pankki.lainaz").
+class RuudunOhjaimet {
+public:
+    RuudunOhjaimet(Ohjainluettelo& l, std::string_view ruutu) : l_(l), ruutu_(std::string(ruutu) + ".") {}
+    // A single control.
+    void operator()(std::string_view nimi, std::function<Ohjain(const Peli&)> lue) const;
+    // A control array of `koko` members numbered from `alku`.
+    void Taulukko(std::string_view nimi, int koko, int alku, std::function<Ohjain(const Peli&, int)> lue) const;
+
+private:
+    Ohjainluettelo& l_;
+    std::string ruutu_;
+};
 
 // Every screen's controls, gathered from the subsystems once.
 const Ohjainluettelo& Ohjaimet();

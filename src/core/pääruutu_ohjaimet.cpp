@@ -32,9 +32,7 @@ Ohjain Teksti(std::string t) { return Näkyvä(std::move(t)); }
 }  // namespace
 
 void PääruudunOhjaimet(Ohjainluettelo& l) {
-    auto yksi = [&l](const char* nimi, std::function<Ohjain(const Peli&)> f) {
-        l[std::string("Tanhua.") + nimi] = {[f](const Peli& p, int) { return f(p); }};
-    };
+    const RuudunOhjaimet yksi(l, "Tanhua");
     yksi("Rahaz", [](const Peli& p) { return Teksti(L(p).Rahaz); });
     yksi("liikevaihtoz", [](const Peli& p) {
         return JosNäkyy(L(p).liikevaihtoNäkyy, [&] { return L(p).liikevaihtoz; });
@@ -56,17 +54,15 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
         return o;
     });
     for (int i = 0; i < 4; ++i)
-        yksi(("Mittari" + std::to_string(i + 1)).c_str(),
+        yksi("Mittari" + std::to_string(i + 1),
              [i](const Peli& p) { return Teksti(std::to_string(L(p).mittarit[i].p)); });
-    l["Tanhua.TP_Kuva"] = {[](const Peli& p, int i) {
-                               if (!L(p).tähdetNäkyvät) return Piilossa();
-                               Ohjain o = Teksti(i < L(p).tähtiä ? "Tähti.gif" : "Tähti2.gif");
-                               o.vihje = std::string(TÄHTIEN_JÄRJESTYS[i]) +
-                                         " tähti. Klikkaa tähteä nähdäksesti mitä sinun on saavutettava, "
-                                         "jotta tilasi ansaitsee kyseisen tähden.";
-                               return o;
-                           },
-                           5, 0};
+    yksi.Taulukko("TP_Kuva", 5, 0, [](const Peli& p, int i) {
+        if (!L(p).tähdetNäkyvät) return Piilossa();
+        Ohjain o = Teksti(i < L(p).tähtiä ? "Tähti.gif" : "Tähti2.gif");
+        o.vihje = std::string(TÄHTIEN_JÄRJESTYS[i]) +
+                  " tähti. Klikkaa tähteä nähdäksesti mitä sinun on saavutettava, jotta tilasi ansaitsee kyseisen tähden.";
+        return o;
+    });
     yksi("Lista", [](const Peli& p) {
         const Näkymä& n = p.näkymä;
         if (!n.ListaNäkyvissä || n.Lista.empty()) return Piilossa();

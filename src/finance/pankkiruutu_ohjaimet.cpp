@@ -19,9 +19,7 @@ Ohjain Lapulla(bool lappu, std::string arvo, bool käytössä = true) {
 }  // namespace
 
 void PankkiruudunOhjaimet(Ohjainluettelo& l) {
-    auto yksi = [&l](std::string_view nimi, std::function<Ohjain(const Peli&)> f) {
-        l["Pankki." + std::string(nimi)] = {[f](const Peli& p, int) { return f(p); }};
-    };
+    const RuudunOhjaimet yksi(l, "Pankki");
     auto nappi = [&yksi](const char* nimi, const char* teksti) {
         yksi(nimi, [teksti](const Peli& p) { return Näkyvä(teksti, Vapaa(p)); });
     };

@@ -34,19 +34,16 @@ std::string AsetuksenNimi(std::size_t k) {
 }
 
 void TuoteruudunOhjaimet(Ohjainluettelo& l) {
-    auto yksi = [&l](const std::string& nimi, std::function<Ohjain(const Peli&)> f) {
-        l["Tuotteet." + nimi] = {[f](const Peli& p, int) { return f(p); }};
-    };
+    const RuudunOhjaimet yksi(l, "Tuotteet");
     constexpr int N = static_cast<int>(TUOTTEITA);
 
     // The shelf: a picture and a stock for each product, in the products' order.
-    l["Tuotteet.Kuva"] = {[](const Peli&, int k) {
-                              const TuoteRivi& t = TUOTETAULU[static_cast<std::size_t>(k)];
-                              return Kuvana(t.kuva, t.nimi);
-                          },
-                          N, 0};
-    l["Tuotteet.Varasto"] = {[](const Peli& p, int k) { return Näkyvä(Määrä(R(p).varasto[static_cast<std::size_t>(k)])); },
-                             N, 0};
+    yksi.Taulukko("Kuva", N, 0, [](const Peli&, int k) {
+        const TuoteRivi& t = TUOTETAULU[static_cast<std::size_t>(k)];
+        return Kuvana(t.kuva, t.nimi);
+    });
+    yksi.Taulukko("Varasto", N, 0,
+                  [](const Peli& p, int k) { return Näkyvä(Määrä(R(p).varasto[static_cast<std::size_t>(k)])); });
     yksi("aihe", [](const Peli& p) { return Näkyvä(R(p).aihe); });
     yksi("Ohje", [](const Peli& p) { return JosNäkyy(p.m.OhjeetPäällä, [&] { return R(p).ohje; }); });
     yksi("Command1", [](const Peli&) { return Näkyvä("Takaisin"); });

@@ -19,9 +19,7 @@ Ohjain JobinLuku(const Peli& p, T luku) {
 }  // namespace
 
 void TyövoimaruudunOhjaimet(Ohjainluettelo& l) {
-    auto yksi = [&l](const char* nimi, std::function<Ohjain(const Peli&)> f) {
-        l[std::string("Työvoima.") + nimi] = {[f](const Peli& p, int) { return f(p); }};
-    };
+    const RuudunOhjaimet yksi(l, "Työvoima");
     // The list is filled by the stars at each opening; as the stars only move on a day's press,
     // it is always the jobs they open for the farm as it stands.
     yksi("Lista", [](const Peli& p) {

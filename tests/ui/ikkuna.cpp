@@ -56,7 +56,9 @@ std::string Näyttää(QWidget* w, const Ohjain& o, const std::string& tunnus) {
         return S(rivit.join('|'));
     }
     if (auto* c = qobject_cast<QCheckBox*>(w)) {
-        if (o.väri) EXPECT_EQ(c->property("väri").toUInt(), *o.väri) << tunnus;
+        if (o.väri) {
+            EXPECT_EQ(c->property("väri").toUInt(), *o.väri) << tunnus;
+        }
         return c->isChecked() ? "True" : "False";
     }
     if (auto* b = qobject_cast<QAbstractButton*>(w)) return S(b->text());
@@ -66,7 +68,9 @@ std::string Näyttää(QWidget* w, const Ohjain& o, const std::string& tunnus) {
         if (l->pixmap().isNull()) return S(l->text());
         // A picture that doesn't keep its file's name: it has one, and its hint is the tool tip.
         EXPECT_NE(o.arvo, "") << tunnus;
-        if (!o.vihje.empty()) EXPECT_EQ(S(l->toolTip()), o.vihje) << tunnus;
+        if (!o.vihje.empty()) {
+            EXPECT_EQ(S(l->toolTip()), o.vihje) << tunnus;
+        }
         return o.arvo;
     }
     // A panel or sheet shows its heading where it has one.
