@@ -56,9 +56,23 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     t->addWidget(liikevaihtoOtsikko_, 1, 0);
     t->addWidget(liikevaihtoz_, 1, 1);
     t->addWidget(Teksti("Päivämäärä :", 11, tiedot, false), 2, 0);
-    päiväz_ = Teksti("", 13, tiedot);
-    t->addWidget(päiväz_, 2, 1);
+    // The date as its three figures with dots between.
+    auto* päivämäärä = new QWidget(tiedot);
+    auto* pr = new QHBoxLayout(päivämäärä);
+    pr->setContentsMargins(0, 0, 0, 0);
+    pr->setSpacing(0);
+    const std::array<const char*, 3> päiväysNimet{"Päiväz", "Kuukausiz", "Vuosiz"};
+    for (std::size_t i = 0; i < 3; ++i) {
+        if (i > 0) pr->addWidget(Teksti(".", 13, päivämäärä));
+        päiväys_[i] = Teksti("", 13, päivämäärä);
+        päiväys_[i]->setObjectName(päiväysNimet[i]);
+        pr->addWidget(päiväys_[i]);
+        Ohje("Image2", päiväys_[i]);
+    }
+    pr->addStretch();
+    t->addWidget(päivämäärä, 2, 1);
     vuodenaikaz_ = Teksti("", 13, tiedot);
+    vuodenaikaz_->setObjectName("Vuodenaikaz");
     t->addWidget(vuodenaikaz_, 3, 1);
     asteLuku_ = Teksti("", 14, tiedot);
     asteLuku_->setObjectName("AsteLuku");
@@ -66,9 +80,9 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     sää_ = new QLabel(tiedot);
     sää_->setObjectName("Sää");
     t->addWidget(sää_, 3, 0, 2, 1, Qt::AlignCenter);
-    Ohje("Image2", päiväz_);
     Ohje("Image2", vuodenaikaz_);
     versio_ = Teksti("", 8, tiedot, false);
+    versio_->setObjectName("Versio");
     t->addWidget(versio_, 5, 0);
 
     // The four gauges.
@@ -224,27 +238,35 @@ void Tanhua::keyPressEvent(QKeyEvent* tapahtuma) {
 
 void Tanhua::Päivitä() {
     const Lukemat& l = peli_.näkymä.lukemat;
-    rahaz_->setText(QString::fromStdString(l.Rahaz));
-    liikevaihtoz_->setText(QString::fromStdString(l.liikevaihtoz));
-    liikevaihtoz_->setVisible(l.liikevaihtoNäkyy);
-    liikevaihtoOtsikko_->setVisible(l.liikevaihtoNäkyy);
-    päiväz_->setText(QString::fromStdString(l.Päiväz + "." + l.Kuukausiz + "." + l.Vuosiz));
-    vuodenaikaz_->setText(QString::fromStdString(l.Vuodenaikaz));
-    const LämpötilaNäyttö aste = AsteLuku(peli_.m.Lämpötila);
-    asteLuku_->setText(QString::fromStdString(aste.teksti));
-    asteLuku_->setStyleSheet(
-        QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;").arg(aste.r).arg(aste.g).arg(aste.b));
-    versio_->setText(QString::fromStdString(l.Versio));
-    sää_->setVisible(l.sää >= 0);
-    if (l.sää >= 0) {
-        sää_->setPixmap(KuvaJosOn(peli_, std::string("Kuvat/sää/") + SÄÄKUVAT[l.sää].tiedosto));
-        sää_->setToolTip(SÄÄKUVAT[l.sää].vihje);
+    auto lue = [this](const std::string& nimi) { return LueRuudulta(peli_, "Tanhua", nimi); };
+    const std::array<std::pair<QWidget*, const char*>, 15> ohjaimet{{
+        {rahaz_, "Rahaz"}, {liikevaihtoz_, "liikevaihtoz"}, {päiväys_[0], "Päiväz"}, {päiväys_[1], "Kuukausiz"},
+        {päiväys_[2], "Vuosiz"}, {vuodenaikaz_, "Vuodenaikaz"}, {asteLuku_, "AsteLuku"}, {versio_, "Versio"},
+        {command1_, "Command1"}, {command2_, "Command2"}, {command3_, "Command3"}, {command6_, "Command6"},
+        {command8_, "Command8"}, {command9_, "Command9"}, {command4_, "Command4"},
+    }};
+    for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
+    Näytä(lopetus_, lue("Lopetus"));
+    liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
+    if (const Ohjain aste = lue("AsteLuku"); aste.väri)
+        asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;")
+                                     .arg(*aste.väri & 0xFF)
+                                     .arg((*aste.väri >> 8) & 0xFF)
+                                     .arg((*aste.väri >> 16) & 0xFF));
+    const Ohjain sää = lue("Sää");
+    sää_->setVisible(sää.näkyvissä);
+    if (sää.näkyvissä) {
+        sää_->setPixmap(KuvaJosOn(peli_, "Kuvat/sää/" + sää.arvo));
+        sää_->setToolTip(Q(sää.vihje));
+        sää_->setProperty("tiedosto", Q(sää.arvo));
     }
     for (int i = 0; i < 4; ++i) mittarit_[i]->Aseta(l.mittarit[i]);
-    const QPixmap keltainen = KuvaJosOn(peli_, "Kuvat/Tähti.gif"), musta = KuvaJosOn(peli_, "Kuvat/Tähti2.gif");
     for (int i = 0; i < 5; ++i) {
-        tähdet_[i]->setVisible(l.tähdetNäkyvät);
-        tähdet_[i]->setPixmap(i < l.tähtiä ? keltainen : musta);
+        const Ohjain tähti = lue("TP_Kuva(" + std::to_string(i) + ")");
+        tähdet_[i]->setVisible(tähti.näkyvissä);
+        if (!tähti.näkyvissä) continue;
+        tähdet_[i]->setPixmap(KuvaJosOn(peli_, "Kuvat/" + tähti.arvo));
+        tähdet_[i]->setProperty("tiedosto", Q(tähti.arvo));
     }
     if (tausta_ != l.Tausta) {
         tausta_ = l.Tausta;
@@ -256,12 +278,9 @@ void Tanhua::Päivitä() {
         lista_->clear();
         for (const std::string& rivi : rivit) lista_->addItem(QString::fromStdString(rivi));
     }
-    lista_->setVisible(peli_.näkymä.ListaNäkyvissä && !rivit.empty());
+    lista_->setVisible(lue("Lista").näkyvissä);
     if (lista_->count() > 0) lista_->setCurrentRow(lista_->count() - 1);
-    ohje_->setVisible(peli_.m.OhjeetPäällä);
-    // Supplies open with the first star while the stars lock the farm.
-    command9_->setEnabled(peli_.näkymä.Command9Käytössä);
-    ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
+    Näytä(ohje_, lue("Ohje"));
 }
 
 }  // namespace tanhua::ui

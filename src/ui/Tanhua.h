@@ -67,7 +67,8 @@ private:
     void Ohje(const char* kontrolli, QWidget* w);
 
     Peli& peli_;
-    QLabel *sää_, *rahaz_, *liikevaihtoz_, *liikevaihtoOtsikko_, *päiväz_, *vuodenaikaz_, *asteLuku_, *versio_, *ohje_;
+    QLabel *sää_, *rahaz_, *liikevaihtoz_, *liikevaihtoOtsikko_, *vuodenaikaz_, *asteLuku_, *versio_, *ohje_;
+    std::array<QLabel*, 3> päiväys_{};  // Päiväz, Kuukausiz, Vuosiz
     std::array<QLabel*, 5> tähdet_{};
     std::array<MittariKuva*, 4> mittarit_{};
     QListWidget* lista_;

@@ -26,6 +26,20 @@ namespace {
 using testi::Ikkuna;
 using testi::VertaaRuutua;
 
+TEST(Screens, TheMainScreenShowsItsControls) {
+    Ikkuna i;
+    i.Aloita();
+    Muuttujat& m = i.peli.m;
+    m.OhjeetPäällä = true;
+    Aseta(m.Työ[Kirjanpitäjä], 1);
+    Aseta(m.Tähdet, 1);
+    // Two days: the weather, the turnover and the stars are drawn, the event list tells of the full store.
+    Aseta(m.Var[Maito], 5000);
+    for (int päivä = 0; päivä < 2; ++päivä) QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
+    EXPECT_GT(VertaaRuutua(i.peli, i.w->tanhua(), "Tanhua"), 20);
+    EXPECT_TRUE(i.w->tanhua()->Lista()->isVisible());
+}
+
 TEST(Screens, TheAnimalScreenWithACardAndBothPanels) {
     Ikkuna i;
     i.Aloita();
