@@ -57,20 +57,18 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     t->addWidget(liikevaihtoz_, 1, 1);
     t->addWidget(Teksti("Päivämäärä :", 11, tiedot, false), 2, 0);
     // The date as its three figures with dots between.
-    auto* päivämäärä = new QWidget(tiedot);
-    auto* pr = new QHBoxLayout(päivämäärä);
-    pr->setContentsMargins(0, 0, 0, 0);
+    auto* pr = new QHBoxLayout;
     pr->setSpacing(0);
     const std::array<const char*, 3> päiväysNimet{"Päiväz", "Kuukausiz", "Vuosiz"};
     for (std::size_t i = 0; i < 3; ++i) {
-        if (i > 0) pr->addWidget(Teksti(".", 13, päivämäärä));
-        päiväys_[i] = Teksti("", 13, päivämäärä);
+        if (i > 0) pr->addWidget(Teksti(".", 13, tiedot));
+        päiväys_[i] = Teksti("", 13, tiedot);
         päiväys_[i]->setObjectName(päiväysNimet[i]);
         pr->addWidget(päiväys_[i]);
         Ohje("Image2", päiväys_[i]);
     }
     pr->addStretch();
-    t->addWidget(päivämäärä, 2, 1);
+    t->addLayout(pr, 2, 1);
     vuodenaikaz_ = Teksti("", 13, tiedot);
     vuodenaikaz_->setObjectName("Vuodenaikaz");
     t->addWidget(vuodenaikaz_, 3, 1);
