@@ -157,6 +157,14 @@ TEST(Runner, TellsAreasAndWaitingNewsAndKeepsTheSupplyListsWithTheFlags) {
     EXPECT_THROW(ajuri.Rivi("call Jalostus Navetta", ulos), std::runtime_error) << "a store has no chain";
 }
 
+TEST(Runner, TheGuideNamesEveryOperation) {
+    std::ifstream tiedosto(TANHUA_SIM_DOC);
+    std::stringstream opas;
+    opas << tiedosto.rdbuf();
+    for (const auto& [nimi, toiminto] : Toiminnot())
+        EXPECT_NE(opas.str().find("`" + nimi), std::string::npos) << nimi << " is not in docs/tanhua-sim.md";
+}
+
 // Each scenario is a script beside its expected output; the first differing line is shown.
 TEST(Scenarios, TranscriptsMatch) {
     int ajettu = 0;
