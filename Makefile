@@ -3,8 +3,8 @@ BUILD ?= build
 JOBS ?= 2
 # The checking builds of `make test`: the library, the runner, the window and their tests under the
 # address and undefined-behaviour sanitizers (g++), and the fuzz targets (clang's libFuzzer). Both read the
-# program folder the plain build generated. Both are unoptimised builds: they compile in about half the
-# time, and the checks they make don't need speed.
+# program folder the plain build generated. Both are unoptimised builds: they compile faster, and the
+# checks they make don't need speed.
 SAN_BUILD ?= build-san
 FUZZ_BUILD ?= build-fuzz
 FUZZ_CXX ?= clang++-16
