@@ -116,11 +116,14 @@ TEST(Screens, TheBuildingScreenShowsItsControlsAsTheGameReadsThem) {
     EXPECT_FALSE(r->findChild<QLabel*>("info")->isVisible());
     EXPECT_EQ(r->findChild<QLabel*>("taso")->text(), "2 / 5");
     EXPECT_FALSE(r->Plus()->isEnabled());
+    QTest::keyClick(r, Qt::Key_Escape);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua()) << "Esc leaves the building screen";
 }
 
 TEST(Screens, TheSuppliesShopShowsItsControlsAsTheGameReadsThem) {
     Ikkuna i;
     i.Aloita();
+    EXPECT_FALSE(i.w->tanhua()->Command9()->isEnabled()) << "the supplies wait for the first star";
     i.peli.m.Tähdet = 1;
     i.peli.m.Raha = 30000;
     i.w->PalaaPääruutuun();
