@@ -9,6 +9,7 @@ const Ohjainluettelo& Ohjaimet() {
     static const Ohjainluettelo luettelo = [] {
         Ohjainluettelo l;
         PääruudunOhjaimet(l);
+        AlkuruudunOhjaimet(l);
         EläinruudunOhjaimet(l);
         TuoteruudunOhjaimet(l);
         RakennusruudunOhjaimet(l);

@@ -52,7 +52,8 @@ private:
 const Ohjainluettelo& Ohjaimet();
 
 // Each screen adds its own controls.
-void PääruudunOhjaimet(Ohjainluettelo& l);     // Tanhua (core/pääruutu.cpp)
+void PääruudunOhjaimet(Ohjainluettelo& l);     // Tanhua
+void AlkuruudunOhjaimet(Ohjainluettelo& l);     // Alku, and the news window ikkuna and the money plate
 void EläinruudunOhjaimet(Ohjainluettelo& l);   // Eläimet
 void TuoteruudunOhjaimet(Ohjainluettelo& l);   // Tuotteet
 void RakennusruudunOhjaimet(Ohjainluettelo& l);  // Rakennukset

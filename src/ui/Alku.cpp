@@ -121,16 +121,21 @@ Alku::Alku(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(lista_, &QListWidget::currentRowChanged, this, [this](int rivi) {
         if (rivi >= 0) peli_.alku.Lista = rivi;
     });
+    // What the player types and ticks is the start screen's state at once, as the game reads it.
+    connect(nimesi_, &QLineEdit::textChanged, this, [this](const QString& t) { peli_.alku.Nimesi = t.toStdString(); });
+    connect(ohjeita_, &QCheckBox::toggled, this, [this](bool päällä) { peli_.alku.Ohjeita = päällä; });
+    connect(tp_, &QCheckBox::toggled, this, [this](bool päällä) { peli_.alku.TP_Valinta = päällä; });
 }
 
 void Alku::Päivitä() {
     const AlkuRuutu& a = peli_.alku;
-    vtaso_->setText(VAIKEUSTASOT.at(a.VTaso));
-    viime_->setText(QString::fromStdString(a.Viime));
-    command2_->setEnabled(a.Command2);
+    auto lue = [this](const char* nimi) { return LueRuudulta(peli_, "Alku", nimi); };
+    if (nimesi_->text().toStdString() != a.Nimesi) nimesi_->setText(QString::fromStdString(a.Nimesi));
+    for (auto [w, nimi] : {std::pair<QWidget*, const char*>{vtaso_, "VTaso"}, {viime_, "Viime"}, {ohjeita_, "Ohjeita"},
+                           {tp_, "TP_Valinta"}, {command1_, "Command1"}, {command2_, "Command2"}, {command3_, "Command3"},
+                           {command4_, "Command4"}})
+        ui::Näytä(w, lue(nimi));
     if (lista_->currentRow() != a.Lista) lista_->setCurrentRow(a.Lista);
-    command3_->setEnabled(true);
-    command4_->setEnabled(true);
     nimesi_->setFocus();
 }
 

@@ -12,6 +12,7 @@ ikkuna::ikkuna(Peli& peli, QWidget* vanhempi) : QFrame(vanhempi), peli_(peli) {
     setObjectName("ikkuna");
     setStyleSheet("#ikkuna { background: black; border: 3px solid #c8a060; border-radius: 8px; }");
     kuva_ = new QLabel(this);
+    kuva_->setObjectName("kuva");
     kuva_->setAlignment(Qt::AlignCenter);
     kuva_->setMinimumSize(400, 300);
     tapahtuma_ = new QLabel("Tapahtumat", this);

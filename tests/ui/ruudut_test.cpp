@@ -8,9 +8,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSlider>
+#include <QPushButton>
 #include <QTest>
 
 #include "buildings/taulut/rakennuskatalogi.h"
+#include "core/viestit.h"
 #include "ui/Eläimet.h"
 #include "ui/Pankki.h"
 #include "ui/Rakennukset.h"
@@ -26,9 +28,13 @@ namespace {
 using testi::Ikkuna;
 using testi::VertaaRuutua;
 
-TEST(Screens, TheMainScreenShowsItsControls) {
+TEST(Screens, TheStartScreenTheMainScreenAndTheNewsWindowShowTheirControls) {
     Ikkuna i;
-    i.Aloita();
+    QTest::keyClicks(i.w->alku()->Nimesi(), "Matti");
+    QTest::mouseClick(i.w->alku()->findChild<QPushButton*>("Command3"), Qt::LeftButton);  // Vaikea
+    i.w->alku()->findChild<QCheckBox*>("Ohjeita")->setChecked(true);
+    EXPECT_EQ(VertaaRuutua(i.peli, i.w->alku(), "Alku"), 10);
+    QTest::keyClick(i.w->alku()->Nimesi(), Qt::Key_Return);
     Muuttujat& m = i.peli.m;
     m.OhjeetPäällä = true;
     Aseta(m.Työ[Kirjanpitäjä], 1);
@@ -38,6 +44,9 @@ TEST(Screens, TheMainScreenShowsItsControls) {
     for (int päivä = 0; päivä < 2; ++päivä) QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
     EXPECT_GT(VertaaRuutua(i.peli, i.w->tanhua(), "Tanhua"), 20);
     EXPECT_TRUE(i.w->tanhua()->Lista()->isVisible());
+    EXPECT_EQ(i.peli.m.Vaikeustaso, 2);
+    Kerro(i.peli, "Kuvat/sattumat/Onnittelu.jpg", "Onnea!");
+    EXPECT_EQ(VertaaRuutua(i.peli, i.w->uutiset(), "ikkuna"), 3);
 }
 
 TEST(Screens, TheAnimalScreenWithACardAndBothPanels) {
@@ -130,6 +139,7 @@ TEST(Screens, TheSuppliesShopShowsItsControlsAsTheGameReadsThem) {
     QTest::mouseClick(i.w->tanhua()->Command9(), Qt::LeftButton);
     Tarvikkeet* t = i.w->tarvikkeet();
     ASSERT_EQ(i.w->pino()->currentWidget(), t);
+    EXPECT_EQ(VertaaRuutua(i.peli, i.w->rahaKyltti(), "RahaKyltti"), 1);
     QTest::mouseClick(t->Command3(), Qt::LeftButton);
     t->Lista()->setCurrentRow(8);  // Kirnu
     QTest::mouseClick(t->Command5(), Qt::LeftButton);
