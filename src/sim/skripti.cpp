@@ -147,16 +147,19 @@ bool DesimaaliLuku(const std::string& sana) {
     return numeroita;
 }
 
-// A byte of a data file printed as it is, or as \xNN when it isn't a printing character of a line.
-std::string Tavuina(const std::string& sisältö) {
+// Bytes of a data file as one printable line: 0x21 to 0x7E stand as they are but a backslash is
+// doubled; every other byte, the blank and the line ends too, is \xHH.
+std::string Tavuina(std::string_view tavut) {
     std::string ulos;
-    for (unsigned char c : sisältö) {
-        if (c == '\\' || c < 0x20 || c == 0x7F || c >= 0x80) {
+    for (unsigned char c : tavut) {
+        if (c == '\\') {
+            ulos += "\\\\";
+        } else if (c >= 0x21 && c <= 0x7E) {
+            ulos += static_cast<char>(c);
+        } else {
             char koodi[8];
             std::snprintf(koodi, sizeof koodi, "\\x%02X", c);
             ulos += koodi;
-        } else {
-            ulos += static_cast<char>(c);
         }
     }
     return ulos;
@@ -219,25 +222,41 @@ void Ajuri::Seuranta(const std::vector<std::string>& sanat) {
     };
 }
 
-std::filesystem::path Ajuri::Datatiedosto(const std::string& nimi) const {
+std::optional<std::filesystem::path> Ajuri::Datatiedosto(const std::string& nimi) const {
     // Only files of the data folder itself: no folders, no way out of it.
     if (nimi.empty() || nimi.find_first_of("/\\") != std::string::npos || nimi == "." || nimi == "..")
         Virhe("a file of the data folder is named without folders: '" + nimi + "'");
     const auto polku = EtsiTiedosto(peli_->kansiot.data, nimi);
-    if (!polku || !std::filesystem::is_regular_file(*polku)) Virhe("no file '" + nimi + "' in the data folder");
+    if (!polku || !std::filesystem::is_regular_file(*polku)) return std::nullopt;
     return *polku;
 }
 
 void Ajuri::Tiedosto(const std::vector<std::string>& sanat, std::ostream& ulos) {
     if (sanat.size() != 2) Virhe("file takes NAME");
-    const auto sisältö = LueTiedosto(Datatiedosto(sanat[1]));
-    if (!sisältö) Virhe("cannot read '" + sanat[1] + "'");
-    ulos << Tavuina(*sisältö) << '\n';
+    const std::string& nimi = sanat[1];
+    const auto polku = Datatiedosto(nimi);
+    const auto sisältö = polku ? LueTiedosto(*polku) : std::nullopt;
+    if (!sisältö) {
+        ulos << nimi << "=missing\n";
+        return;
+    }
+    // Its size, then each line up to and with its line feed; bytes after the last one make a last line.
+    ulos << nimi << '=' << sisältö->size() << '\n';
+    const std::string_view tavut = *sisältö;
+    std::size_t alku = 0;
+    for (int k = 1; alku < tavut.size(); ++k) {
+        const std::size_t lf = tavut.find('\n', alku);
+        const std::size_t loppu = lf == std::string_view::npos ? tavut.size() : lf + 1;
+        ulos << nimi << ':' << k << '=' << Tavuina(tavut.substr(alku, loppu - alku)) << '\n';
+        alku = loppu;
+    }
 }
 
 void Ajuri::Muuta(const std::vector<std::string>& sanat) {
     if (sanat.size() != 4) Virhe("poke takes NAME OFFSET BYTE");
-    const auto polku = Datatiedosto(sanat[1]);
+    const auto löytyi = Datatiedosto(sanat[1]);
+    if (!löytyi) Virhe("no file '" + sanat[1] + "' in the data folder");
+    const std::filesystem::path& polku = *löytyi;
     const long long kohta = Luku(sanat[2], "OFFSET", 0, std::numeric_limits<long long>::max());
     const long long tavu = Luku(sanat[3], "BYTE", 0, 255);
     const auto koko = std::filesystem::file_size(polku);

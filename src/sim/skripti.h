@@ -6,6 +6,7 @@
 #include <iosfwd>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -77,7 +78,8 @@ private:
     void Seuranta(const std::vector<std::string>& sanat);
     void Tiedosto(const std::vector<std::string>& sanat, std::ostream& ulos);
     void Muuta(const std::vector<std::string>& sanat);
-    std::filesystem::path Datatiedosto(const std::string& nimi) const;
+    // A file of the data folder by its name (any case); empty when there is none.
+    std::optional<std::filesystem::path> Datatiedosto(const std::string& nimi) const;
     // Commands that work on the farm refuse to run before there is one.
     void VaadiTila(const std::string& komento) const;
     void SuljeAvoinRaportti();

@@ -69,7 +69,7 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"new A Vapaa 1 on\nanswer Kyllä\ncall Tilanne.UusiTilanne\ndays 1\n", "line 4: days needs a farm"},
                             // Files of the data folder only, and bytes that are there.
                             {"file ../Asetukset.dat\n", "line 1: a file of the data folder is named without folders"},
-                            {"file Puuttuu.sav\n", "line 1: no file 'Puuttuu.sav'"},
+                            {"poke Puuttuu.sav 0 1\n", "line 1: no file 'Puuttuu.sav'"},
                             {"poke Asetukset.dat 100000 1\n", "line 1: OFFSET must be within the file's"},
                             {"poke Asetukset.dat 0 256\n", "line 1: BYTE goes from 0 to 255"}}) {
         const Ajo ajo = Aja(c.skripti);
@@ -112,9 +112,13 @@ TEST(Runner, TellsTheEndOfTheProgramAndReadsOn) {
 
 TEST(Runner, ReadsAndTampersWithTheDataFolderBytes) {
     // Settings need no farm and hold for the run only: the file keeps its bytes.
-    const Ajo ajo = Aja("set Musiikki False\nprint Musiikki\npoke asetukset.dat 0 9\nfile Asetukset.dat\n");
+    const Ajo ajo = Aja("set Musiikki False\nprint Musiikki\npoke asetukset.dat 0 92\npoke asetukset.dat 1 32\n"
+                        "file Asetukset.dat\nfile Puuttuu.sav\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
-    EXPECT_EQ(ajo.ulos.substr(0, 43), "Musiikki=False\n\\x09alse\\x0D\\x0ATrue\\x0D\\x0A");
+    // The size, then each line with its line feed: a backslash doubled, a blank and the line ends as \xHH.
+    EXPECT_EQ(ajo.ulos.substr(0, 95), "Musiikki=False\nAsetukset.dat=53\nAsetukset.dat:1=\\\\\\x20lse\\x0D\\x0A\n"
+                                      "Asetukset.dat:2=True\\x0D\\x0A\n");
+    EXPECT_EQ(ajo.ulos.substr(ajo.ulos.size() - 20), "Puuttuu.sav=missing\n");
 }
 
 TEST(Runner, SetStoresByWidthAndPrintsWithoutTheBlank) {
