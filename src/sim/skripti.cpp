@@ -82,7 +82,8 @@ void Ajuri::Uusi(const std::vector<std::string>& sanat) {
     if (tavoite < 0) Virhe("GOAL must be Vapaa, Miljoona or \"10 vuotta\": '" + sanat[2] + "'");
     const long long taso = Luku(sanat[3], "DIFFICULTY", 0, 2);
     if (sanat[4] != "on" && sanat[4] != "off") Virhe("STARS must be on or off");
-    if (peli_->käynnissä) {
+    if (peli_->käynnissä || luovuttu_) {
+        luovuttu_ = false;
         // A new farm from the start screen leaves nothing of the last one.
         peli_->m = Muuttujat{};
         NollaaRuudut(*peli_);
@@ -307,6 +308,12 @@ void Ajuri::Rivi(const std::string& rivi, std::ostream& ulos) {
         Muuta(sanat);
     } else {
         Virhe("unknown command '" + komento + "'");
+    }
+    // Once the game has ended the program the farm is given up: only a new one plays on.
+    if (kanavat_.loppu) {
+        kanavat_.loppu = false;
+        peli_->käynnissä = false;
+        luovuttu_ = true;
     }
 }
 

@@ -86,6 +86,7 @@ private:
 
     TallentavatKanavat kanavat_;
     std::unique_ptr<Peli> peli_;
+    bool luovuttu_ = false;  // the game ended the program: the farm is given up until the next new
 };
 
 }  // namespace tanhua

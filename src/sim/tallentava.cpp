@@ -41,7 +41,10 @@ void TallentavatKanavat::Raportti(const RaporttiSivu& sivu) {
 
 void TallentavatKanavat::Alue(const RaporttiSivu& alue) { Rivit("ALUE|", alue); }
 
-void TallentavatKanavat::Loppu() { tapahtumat.push_back("LOPPU"); }
+void TallentavatKanavat::Loppu() {
+    tapahtumat.push_back("LOPPU");
+    loppu = true;
+}
 
 void TallentavatKanavat::Rivit(const char* otsake, const RaporttiSivu& sivu) {
     tapahtumat.push_back(otsake + YhdelleRiville(sivu.otsikko));

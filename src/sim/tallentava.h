@@ -29,6 +29,8 @@ public:
     // The last failure box's whole text, for tests of the reporter.
     std::string viimeisinVikateksti;
     std::vector<RaporttiSivu> raportit;
+    // The game has ended the program since the runner last looked.
+    bool loppu = false;
 
 private:
     std::string SeuraavaVastaus(const std::string& oletus);

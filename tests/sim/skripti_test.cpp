@@ -102,12 +102,14 @@ TEST(Runner, APressAPlayerCouldNotMakeIsSkippedAndTheScriptReadsOn) {
 
 TEST(Runner, TellsTheEndOfTheProgramAndReadsOn) {
     const Ajo ajo = Aja("new A Vapaa 1 on\nset Äänitehosteet True\ndraws 0.1 0.1\nevents\nanswer Kyllä\n"
-                        "call Tanhua.Lopetus\nevents\nprint Päivä\n");
+                        "call Tanhua.Lopetus\nevents\nprint Päivä\nnew B Vapaa 1 on\ndays 2\nprint Päivä PelaajanNimi\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
     // The button clicks, the box asks, its answer clicks, the game ends.
     EXPECT_EQ(ajo.ulos,
               "ÄÄNI|klik1\nVIESTI|1|Oletko varma että lopetat pelin suoraan ilman eläkkeelle siirtymistä?|Kyllä\n"
-              "ÄÄNI|klik1\nLOPPU\nPäivä=1\n");
+              "ÄÄNI|klik1\nLOPPU\nPäivä=1\nPäivä=3\nPelaajanNimi=B\n");
+    // The farm is given up at the end: a day needs a new one.
+    EXPECT_EQ(Aja("new A Vapaa 1 on\nanswer Kyllä\ncall Tanhua.Lopetus\ndays 1\n").tila, 1);
 }
 
 TEST(Runner, ReadsAndTampersWithTheDataFolderBytes) {
