@@ -163,4 +163,25 @@ std::string Utf8ToCp1252(std::string_view utf8) {
     return ulos;
 }
 
+bool KirjoitaKokonaan(const std::filesystem::path& polku, const std::string& sisältö) {
+    std::filesystem::path väliaikainen = polku;
+    väliaikainen += ".uusi";
+    {
+        std::ofstream f(väliaikainen, std::ios::binary | std::ios::trunc);
+        f.write(sisältö.data(), static_cast<std::streamsize>(sisältö.size()));
+        f.flush();
+        if (!f) {
+            std::error_code virhe;
+            std::filesystem::remove(väliaikainen, virhe);
+            return false;
+        }
+    }
+    std::error_code virhe;
+    std::filesystem::rename(väliaikainen, polku, virhe);
+    if (!virhe) return true;
+    std::error_code siivous;
+    std::filesystem::remove(väliaikainen, siivous);
+    return false;
+}
+
 }  // namespace tanhua

@@ -30,6 +30,9 @@ void AlustaDatakansio(const Kansiot& kansiot);
 
 // Reads a whole file; nullopt when it can't be opened.
 std::optional<std::string> LueTiedosto(const std::filesystem::path& polku);
+// Writes a whole file: to a temporary file in the same folder, flushed, then renamed over the old
+// one, so a reader never meets half a file. False, with the old file as it was, when it can't.
+bool KirjoitaKokonaan(const std::filesystem::path& polku, const std::string& sisältö);
 // The lines of a text, line ends CR LF or LF taken off.
 std::vector<std::string> Rivit(const std::string& teksti);
 

@@ -8,6 +8,7 @@
 #include "Tuotteet.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Asetukset.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
 #include "animals/kauppa.h"
@@ -203,6 +204,12 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
                      QMessageBox::Yes | QMessageBox::No, &w);
     vika.show();
     ok &= Tallenna(&vika, kansio, "12-VikaTila.png");
+
+    // The settings tool beside the game, on the same data folder.
+    AsetusIkkuna asetukset(peli);
+    asetukset.resize(800, 760);
+    asetukset.show();
+    ok &= Tallenna(&asetukset, kansio, "17-Asetukset.png");
     return ok ? 0 : 1;
 }
 
