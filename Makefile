@@ -11,7 +11,7 @@ FUZZ_CXX ?= clang++-16
 FUZZ_SECONDS ?= 5
 PROGRAM_DIR = $(abspath $(BUILD))/game
 
-.PHONY: all deps configure build run demo screenshots benchmark test contact-sheet clean
+.PHONY: all deps configure build run demo screenshots benchmark test contact-sheet package clean
 
 all: build
 
@@ -46,6 +46,9 @@ test: build
 		-DTANHUA_FUZZ_SECONDS=$(FUZZ_SECONDS) -DTANHUA_PROGRAM_DIR=$(PROGRAM_DIR) > /dev/null
 	@cmake --build $(FUZZ_BUILD) -j$(JOBS)
 	@cd $(FUZZ_BUILD) && ctest --output-on-failure -j$(JOBS)
+
+package: build
+	@cd $(BUILD) && cpack -G DEB
 
 contact-sheet: build
 	@cmake --build $(BUILD) --target tanhua_contact_sheet

@@ -15,7 +15,7 @@ void Käyttö() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    tanhua::Kansiot kansiot{TANHUA_PROGRAM_DIR, tanhua::OletusDatakansio()};
+    tanhua::Kansiot kansiot{tanhua::Ohjelmakansio(TANHUA_PROGRAM_DIR), tanhua::OletusDatakansio()};
     std::string skripti;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];

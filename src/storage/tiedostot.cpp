@@ -184,4 +184,14 @@ bool KirjoitaKokonaan(const std::filesystem::path& polku, const std::string& sis
     return false;
 }
 
+std::filesystem::path Ohjelmakansio(const std::filesystem::path& käännetty) {
+    std::error_code virhe;
+    const auto ohjelma = std::filesystem::read_symlink("/proc/self/exe", virhe);
+    if (!virhe) {
+        const auto asennettu = ohjelma.parent_path().parent_path() / "share" / "tanhua";
+        if (std::filesystem::is_directory(asennettu / "Data", virhe)) return asennettu;
+    }
+    return käännetty;
+}
+
 }  // namespace tanhua

@@ -22,6 +22,10 @@ std::optional<std::filesystem::path> EtsiTiedosto(const std::filesystem::path& j
 // Where a file of the data folder is or would be: an existing one under any case, else the name as given.
 std::filesystem::path DataTiedosto(const Kansiot& kansiot, std::string_view nimi);
 
+// The program folder: an installed program's own, share/tanhua beside the folder it runs from,
+// when there is one; else the build's folder it was made with.
+std::filesystem::path Ohjelmakansio(const std::filesystem::path& käännetty);
+
 // The default data folder: $XDG_DATA_HOME/tanhua/Data, else ~/.local/share/tanhua/Data.
 std::filesystem::path OletusDatakansio();
 

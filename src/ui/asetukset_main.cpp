@@ -75,7 +75,7 @@ int Aseta(const tanhua::Kansiot& kansiot, tanhua::Asetustila tila, const std::ve
 }  // namespace
 
 int main(int argc, char** argv) {
-    tanhua::Kansiot kansiot{TANHUA_PROGRAM_DIR, tanhua::OletusDatakansio()};
+    tanhua::Kansiot kansiot{tanhua::Ohjelmakansio(TANHUA_PROGRAM_DIR), tanhua::OletusDatakansio()};
     bool lista = false;
     std::vector<std::string> muutokset;
     for (int i = 1; i < argc; ++i) {

@@ -14,7 +14,7 @@
 #include <string>
 
 int main(int argc, char** argv) {
-    tanhua::Kansiot kansiot{TANHUA_PROGRAM_DIR, tanhua::OletusDatakansio()};
+    tanhua::Kansiot kansiot{tanhua::Ohjelmakansio(TANHUA_PROGRAM_DIR), tanhua::OletusDatakansio()};
     std::string kuvakansio, vertailu;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];

@@ -79,6 +79,10 @@ TEST(SettingsTool, TheWindowSavesOnTallennaAndNothingOnPeruuta) {
         w.Valinta(4)->setChecked(false);  // Musiikki
         w.Valinta(1)->setChecked(false);  // Animaatiot: the speed greys out
         EXPECT_FALSE(w.Nopeus()->isEnabled());
+        QTest::mouseClick(w.Oletukset(), Qt::LeftButton);  // the shipped values back
+        EXPECT_TRUE(w.Valinta(4)->isChecked());
+        EXPECT_TRUE(w.Nopeus()->isEnabled());
+        w.Valinta(4)->setChecked(false);
         QTest::mouseClick(w.Peruuta(), Qt::LeftButton);
     }
     EXPECT_EQ(t.Rivi(5), "True") << "Peruuta writes nothing";
