@@ -8,6 +8,11 @@
 #include <QHash>
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QImageReader>
 #include <QPainter>
@@ -164,6 +169,33 @@ void Näytä(QWidget* w, const Ohjain& o) {
     }
     w->setVisible(o.näkyvissä);
     w->setEnabled(o.käytössä);
+}
+
+namespace {
+class ToistonEsto : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
+        if (tapahtuma->type() == QEvent::KeyPress || tapahtuma->type() == QEvent::KeyRelease)
+            if (static_cast<QKeyEvent*>(tapahtuma)->isAutoRepeat()) return true;
+        return QObject::eventFilter(kohde, tapahtuma);
+    }
+};
+}  // namespace
+
+void EstäToisto(QWidget* w) {
+    auto* esto = new ToistonEsto(w);
+    w->installEventFilter(esto);
+    for (QAbstractButton* nappi : w->findChildren<QAbstractButton*>()) nappi->installEventFilter(esto);
+}
+
+void SuomennaTyökalut() {
+    static QTranslator kääntäjä;
+    if (kääntäjä.load(QLocale(QLocale::Finnish, QLocale::Finland), "qtbase", "_",
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&kääntäjä);
 }
 
 }  // namespace tanhua::ui

@@ -49,6 +49,14 @@ Ohjain LueRuudulta(const Peli& peli, std::string_view ruutu, const std::string& 
 // shows and takes clicks.
 void Näytä(QWidget* w, const Ohjain& o);
 
+// The toolkit's own texts in Finnish ("Kyllä" and "Ei" on its boxes), from its translation when the
+// machine has it. Called once, after the application is made.
+void SuomennaTyökalut();
+
+// A key held down repeats; a repeat never answers a box, closes a report or a news window: only a
+// fresh press does. Installed on the widget and on each of its buttons.
+void EstäToisto(QWidget* w);
+
 // A text of a table as Qt text.
 QString Sv(std::string_view s);
 

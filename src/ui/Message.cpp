@@ -49,6 +49,7 @@ Message::Message(Peli& peli, QWidget* vanhempi) : QDialog(vanhempi), peli_(peli)
     connect(ei_, &QPushButton::clicked, this, [this] { Vastaa(EI); });
     connect(sulje_, &QPushButton::clicked, this, [this] { Vastaa(VASTATTU); });
     ArvoTausta();
+    EstäToisto(this);
 }
 
 void Message::ArvoTausta() {

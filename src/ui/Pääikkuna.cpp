@@ -167,7 +167,10 @@ void Pääikkuna::SeuraavaPäivä() {
     // The day has its own handler; the report of a month end disables the main screen.
     if (!peli_.näkymä.PääruutuKäytössä) return;
     tanhua::SeuraavaPäivä(peli_);
-    if (peli_.näkymä.RaporttiAuki) pino_->setCurrentWidget(raportti_);
+    if (peli_.näkymä.RaporttiAuki) {
+        pino_->setCurrentWidget(raportti_);
+        raportti_->setFocus();
+    }
     Päivitä();
     uutiset_->setVisible(peli_.näkymä.IkkunaNäkyvissä);
     if (pino_->currentWidget() == tanhua_ && tanhua_->isEnabled()) tanhua_->Command4()->setFocus();

@@ -6,6 +6,7 @@
 #include "core/kuukausi.h"
 // Qt
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace tanhua::ui {
@@ -22,6 +23,14 @@ Raportti::Raportti(Peli& peli, QWidget* vanhempi) : QWidget(vanhempi), peli_(pel
         SuljeRaportti(peli_);
         if (Suljettu) Suljettu();
     });
+    // Enter closes the report, but only a fresh press: a held key stops here for the player to read.
+    setFocusPolicy(Qt::StrongFocus);
+    EstäToisto(this);
+}
+
+void Raportti::keyPressEvent(QKeyEvent* tapahtuma) {
+    if (tapahtuma->key() == Qt::Key_Return || tapahtuma->key() == Qt::Key_Enter) return sulje_->click();
+    QWidget::keyPressEvent(tapahtuma);
 }
 
 void Raportti::Tulosta(const RaporttiSivu& sivu) {

@@ -22,6 +22,9 @@ public:
     std::function<void()> Suljettu;
 
 protected:
+    void keyPressEvent(QKeyEvent* tapahtuma) override;
+
+protected:
     void paintEvent(QPaintEvent* tapahtuma) override;
     void resizeEvent(QResizeEvent* tapahtuma) override;
 

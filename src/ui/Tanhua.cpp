@@ -215,7 +215,9 @@ bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
     if (tapahtuma->type() == QEvent::KeyPress && kohde == command4_) {
         auto* näppäin = static_cast<QKeyEvent*>(tapahtuma);
         if (näppäin->key() == Qt::Key_Return || näppäin->key() == Qt::Key_Enter) {
-            if (isEnabled()) command4_->click();
+            // A held key runs day after day but stops at a news window; a fresh press goes on.
+            const bool pysähdy = näppäin->isAutoRepeat() && peli_.näkymä.IkkunaNäkyvissä;
+            if (isEnabled() && !pysähdy) command4_->click();
             return true;
         }
     }

@@ -107,6 +107,7 @@ int main(int argc, char** argv) {
 
     QApplication sovellus(argc, argv);
     QApplication::setApplicationName("Tanhuan asetukset");
+    tanhua::ui::SuomennaTyökalut();
     Hiljaiset kanavat;
     tanhua::Peli peli(kanavat, kansiot);
     tanhua::ui::AsetusIkkuna ikkuna(peli);

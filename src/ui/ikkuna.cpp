@@ -29,6 +29,7 @@ ikkuna::ikkuna(Peli& peli, QWidget* vanhempi) : QFrame(vanhempi), peli_(peli) {
     asettelu->addWidget(tapahtuma_);
     asettelu->addWidget(sulje_, 0, Qt::AlignHCenter);
     connect(sulje_, &QPushButton::clicked, this, &ikkuna::Sulje);
+    EstäToisto(this);
     hide();
 }
 

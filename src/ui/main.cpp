@@ -1,6 +1,7 @@
 // tanhua: the game in its window. Also writes screenshots of every screen and measures a day's press.
 // own
 #include "Kuvakaappaukset.h"
+#include "Kuvat.h"
 #include "Pääikkuna.h"
 #include "QtKanavat.h"
 #include "storage/tiedostot.h"
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
     if (ilmanNäyttöä && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication sovellus(argc, argv);
     QApplication::setApplicationName("Tanhua");
+    tanhua::ui::SuomennaTyökalut();
 
     if (!ilmanNäyttöä) {
         // A second instance of the game ends at once.

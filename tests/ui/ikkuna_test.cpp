@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -10,6 +13,7 @@
 
 #include "buildings/taulut/rakennuskatalogi.h"
 #include "core/kentät.h"
+#include "core/viestit.h"
 #include "ikkuna.h"
 #include "sim/skripti.h"
 #include "ui/Eläimet.h"
@@ -208,6 +212,48 @@ TEST(Window, EscAsksBeforeQuitting) {
         EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Oletko varma että lopetat pelin suoraan ilman eläkkeelle siirtymistä?");
         EXPECT_EQ(i.lopetettu, lopetetaan);
     }
+}
+
+// A key as a held key sends it again: a repeat.
+void Toisto(QWidget* w, Qt::Key näppäin) {
+    QKeyEvent painallus(QEvent::KeyPress, näppäin, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(w, &painallus);
+}
+
+TEST(Window, AHeldKeyStopsAtWhatThePlayerMustSeeAndAFreshPressGoesOn) {
+    Ikkuna i;
+    i.Aloita();
+    // The month's report: a held Enter doesn't close it; a fresh one does, and the day button has the focus.
+    Aseta(i.peli.m.Päivä, 30);
+    QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->raportti());
+    Toisto(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->raportti());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
+    EXPECT_TRUE(i.w->tanhua()->Command4()->hasFocus());
+    // A news window: a held Enter stops there, a fresh press runs the next day.
+    Kerro(i.peli, "", "Uutinen");
+    const int päivä = i.peli.m.Päivä;
+    Toisto(i.w->tanhua()->Command4(), Qt::Key_Return);
+    EXPECT_EQ(i.peli.m.Päivä, päivä);
+    QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
+    EXPECT_EQ(i.peli.m.Päivä, päivä + 1);
+    // A box: a held K answers nothing, a fresh K answers.
+    bool aukiToistonJälkeen = false;
+    QTimer::singleShot(0, [&] {
+        Toisto(i.w->message(), Qt::Key_K);
+        aukiToistonJälkeen = i.w->message()->isVisible();
+        QTest::keyClick(i.w->message(), Qt::Key_K);
+    });
+    EXPECT_EQ(i.w->message()->Kysy("Kysymys?", 1), "Kyllä");
+    EXPECT_TRUE(aukiToistonJälkeen);
+}
+
+TEST(Window, TheToolkitsBoxesSpeakFinnish) {
+    QMessageBox laatikko(QMessageBox::Critical, "VikaTila", "Vika", QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(laatikko.button(QMessageBox::Yes)->text().remove('&'), "Kyllä");
+    EXPECT_EQ(laatikko.button(QMessageBox::No)->text().remove('&'), "Ei");
 }
 
 // Every value of the record and the settings, and the next draw, as one text to compare.

@@ -3,10 +3,13 @@
 
 #include <QApplication>
 
+#include "ui/Kuvat.h"
+
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     if (qEnvironmentVariableIsEmpty("SDL_AUDIODRIVER")) qputenv("SDL_AUDIODRIVER", "dummy");
     QApplication sovellus(argc, argv);
+    tanhua::ui::SuomennaTyökalut();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
