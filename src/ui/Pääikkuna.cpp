@@ -85,6 +85,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         if (paluu == "Työvoima") pino_->setCurrentWidget(työvoima_);
         else if (pino_->currentWidget() != tanhua_ && OnAlaruutu(pino_->currentWidget())) PalaaPääruutuun();
         Päivitä();
+        PalautaKohdistus(nullptr);
     };
 
     // 1024 x 768, or the screen's size when it is smaller.
@@ -157,10 +158,16 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
     AsetteleKyltti();
 }
 
+void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
+    activateWindow();
+    if (pino_->currentWidget() == tanhua_ && tanhua_->isEnabled()) tanhua_->Command4()->setFocus();
+    else if (ennen && ennen->isVisible()) ennen->setFocus();
+}
+
 void Pääikkuna::PalaaPääruutuun() {
     pino_->setCurrentWidget(tanhua_);
     Toimi([this] { tanhua::PalaaPääruutuun(peli_); });
-    if (tanhua_->isEnabled()) tanhua_->Command4()->setFocus();
+    PalautaKohdistus(nullptr);
 }
 
 void Pääikkuna::SeuraavaPäivä() {

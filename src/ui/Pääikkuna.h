@@ -38,6 +38,9 @@ public:
 
     void AvaaRuutu(QWidget* ruutu);
     void PalaaPääruutuun();
+    // After a box or window closes: the next-day button takes the focus on the main screen, else the
+    // widget that had it before gets it back.
+    void PalautaKohdistus(QWidget* ennen);
     void SeuraavaPäivä();
     void Lopeta();
     // "Pörssikurssit": the market report over the bank, which goes back to the bank when closed.

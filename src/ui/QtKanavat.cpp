@@ -4,13 +4,20 @@
 // own
 #include "Pääikkuna.h"
 // Qt
+#include <QApplication>
 #include <QEventLoop>
+#include <QPointer>
 #include <QInputDialog>
 #include <QMessageBox>
 
 namespace tanhua::ui {
 
-std::string QtKanavat::Kysy(const std::string& teksti, int tyyli) { return ikkuna_->message()->Kysy(teksti, tyyli); }
+std::string QtKanavat::Kysy(const std::string& teksti, int tyyli) {
+    const QPointer<QWidget> ennen = QApplication::focusWidget();
+    const std::string vastaus = ikkuna_->message()->Kysy(teksti, tyyli);
+    ikkuna_->PalautaKohdistus(ennen);
+    return vastaus;
+}
 
 void QtKanavat::Kerro(const std::string& kuva, const std::string& teksti) { ikkuna_->uutiset()->Näytä(kuva, teksti); }
 

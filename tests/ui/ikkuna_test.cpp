@@ -250,6 +250,28 @@ TEST(Window, AHeldKeyStopsAtWhatThePlayerMustSeeAndAFreshPressGoesOn) {
     EXPECT_TRUE(aukiToistonJälkeen);
 }
 
+TEST(Window, TheDayButtonGetsTheFocusBackAfterEveryBoxWindowAndScreen) {
+    Ikkuna i;
+    i.Aloita();
+    QPushButton* päivä = i.w->tanhua()->Command4();
+    // A box asked over the main screen.
+    i.VastaaNäppäimellä(Qt::Key_E);
+    QTest::mouseClick(i.w->tanhua()->Lopetus(), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_TRUE(päivä->hasFocus()) << "after a box";
+    // The news window closed by its button.
+    Kerro(i.peli, "", "Uutinen");
+    i.w->uutiset()->show();
+    QTest::mouseClick(i.w->uutiset()->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_TRUE(päivä->hasFocus()) << "after the news window";
+    // A screen left by its button.
+    QTest::mouseClick(i.w->tanhua()->Command6(), Qt::LeftButton);
+    QTest::mouseClick(i.w->pankki()->Command1(), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_TRUE(päivä->hasFocus()) << "after a screen";
+}
+
 TEST(Window, TheToolkitsBoxesSpeakFinnish) {
     QMessageBox laatikko(QMessageBox::Critical, "VikaTila", "Vika", QMessageBox::Yes | QMessageBox::No);
     EXPECT_EQ(laatikko.button(QMessageBox::Yes)->text().remove('&'), "Kyllä");
