@@ -235,6 +235,9 @@ void TallennaTilanne(Peli& peli, const std::string& nimi) {
     const auto sav = Tiedosto(peli, nimi + ".sav");
     const auto fxf = Tiedosto(peli, nimi + ".fxf");
     std::string sinetti;
+    // The save as it was: put back if its new seal can't be written, so that no .sav stands beside
+    // a seal of another.
+    const std::optional<std::string> vanhaSav = LueTiedosto(sav);
     Vartioitu(peli, paikka::Tallennus,
               {
                   [&] { Kirjoita(temp, Tavuina(TilanteenRivit(peli))); },
@@ -244,7 +247,12 @@ void TallennaTilanne(Peli& peli, const std::string& nimi) {
                       Kirjoita(sav, Siirrä(*rivit, +1));
                   },
                   [&] { sinetti = TiedostonSinetti(sav); },
-                  [&] { Kirjoita(fxf, sinetti + "\r\n"); },
+                  [&] {
+                      if (KirjoitaKokonaan(fxf, sinetti + "\r\n")) return;
+                      if (vanhaSav) KirjoitaKokonaan(sav, *vanhaSav);
+                      else PoistaTiedosto(sav);
+                      NostaVika(VIKA_KIRJOITUS);
+                  },
                   [&] { PoistaTiedosto(temp); },
                   [&] {
                       if (nimi != "Autosave") Kirjoita(Tiedosto(peli, "Savetus.dat"), Utf8ToCp1252(nimi) + "\r\n");

@@ -332,6 +332,29 @@ TEST(SaveFile, ALineThatDoesNotReadIsReportedAndGoingOnReadsTheNext) {
     }
 }
 
+// A write that fails halfway leaves the old save opening as it was, whether the player goes on or not.
+TEST(SaveFile, AFailedWriteIsReportedAndTheOldSaveStillOpens) {
+    for (const char* este : {"Vanha.sav.uusi", "Vanha.fxf.uusi"}) {
+        for (const char* vastaus : {"Kyllä", "Ei"}) {
+            testi::Testipeli t;
+            t.m = KultainenTila();
+            TallennaTilanne(t.peli, "Vanha");
+            // A folder where the new file would be written makes the write fail.
+            const fs::path data = t.peli.kansiot.data;
+            fs::create_directories(data / este / "sisältö");
+            t.m.Raha = 1;
+            t.kanavat.vastaukset = {vastaus};
+            TallennaTilanne(t.peli, "Vanha");
+            const auto tapahtumat = t.Tapahtumat();
+            ASSERT_FALSE(tapahtumat.empty()) << este << vastaus;
+            EXPECT_EQ(tapahtumat[0], std::string("VIKA|Moduulissa. Tallennettaessa tilannetta.|75|") + vastaus);
+            t.m.Raha = -1;
+            EXPECT_TRUE(AvaaTilanne(t.peli, "Vanha")) << este << vastaus;
+            EXPECT_EQ(t.m.Raha, 12345.67f) << este << vastaus;
+        }
+    }
+}
+
 TEST(SavePanel, TheNameIsCheckedAndAnOldSaveIsOverwrittenOnlyOnYes) {
     testi::Testipeli t;
     t.Aloita();
