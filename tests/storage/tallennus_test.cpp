@@ -4,6 +4,7 @@
 #include <climits>
 #include <random>
 
+#include "core/alku.h"
 #include "storage/crc.h"
 #include "storage/sinetti.h"
 #include "storage/tallennus.h"
@@ -353,6 +354,34 @@ TEST(SaveFile, AFailedWriteIsReportedAndTheOldSaveStillOpens) {
             EXPECT_EQ(t.m.Raha, 12345.67f) << este << vastaus;
         }
     }
+}
+
+// "Jatka tilannetta" opens the last save by its name; the shop lists come back without "Aura".
+TEST(SaveFile, TheStartScreensContinueOpensTheLastSave) {
+    testi::Testipeli t;
+    t.Aloita();
+    ASSERT_EQ(t.peli.tarvikeruutu.kauppa[Työkoneet].back(), AURA);
+    t.m.Tarv = {};
+    t.m.Tarv[Kaivo] = true;
+    t.m.Raha = 4321;
+    t.m.Kuukausi = 10;
+    TallennaTilanne(t.peli, "Eilen");
+    t.m.Raha = 0;
+    t.peli.alku.Viime = "Eilen";
+    t.Tapahtumat();
+    EXPECT_TRUE(JatkaTilannetta(t.peli));
+    EXPECT_EQ(t.m.Raha, 4321);
+    EXPECT_EQ(t.m.Vuodenaika, "Syksy");
+    const auto& kauppa = t.peli.tarvikeruutu.kauppa;
+    EXPECT_EQ(std::tuple(kauppa[Tarvikkeita].size(), kauppa[Lisälaitteet].size(), kauppa[Työkoneet].size()),
+              std::tuple(std::size_t{5}, std::size_t{18}, std::size_t{6}));
+    EXPECT_EQ(t.peli.tarvikeruutu.Tavarat, std::vector<TarvikeRivinro>{static_cast<TarvikeRivinro>(Kaivo)});
+
+    // A save without its seal is refused and the program ends; nothing is opened.
+    fs::remove(t.peli.kansiot.data / "Eilen.fxf");
+    t.Tapahtumat();
+    EXPECT_FALSE(JatkaTilannetta(t.peli));
+    EXPECT_EQ(t.Tapahtumat().back(), "LOPPU");
 }
 
 TEST(SavePanel, TheNameIsCheckedAndAnOldSaveIsOverwrittenOnlyOnYes) {
