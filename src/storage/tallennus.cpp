@@ -36,7 +36,7 @@ constexpr std::array<Rakennus, 8> TUOTANTOJÄRJESTYS{Saha, Meijeri, Mylly, Teura
 // declared width, and one for a chart list (a count line and that many texts).
 template <class K>
 void Kentät(Muuttujat& m, K& k) {
-    k(m.Versio);
+    k.Versio(m);
     k(m.PelaajanNimi);
     k(m.Raha);
     k(m.Laina);
@@ -127,6 +127,7 @@ struct Kirjoittaja {
         rivit.push_back(Numerorivi(static_cast<long long>(lista.size())));
         for (const std::string& s : lista) rivit.push_back(s);
     }
+    void Versio(const Muuttujat& m) { (*this)(m.Versio); }
     void TarvikkeetLuettu() {}
 };
 
@@ -172,6 +173,9 @@ struct Lukija {
             if (kesken) lista.push_back(s);
         }
     }
+    // The first line is the writer's version; the running program keeps its own, and the failure
+    // box compares the two.
+    void Versio(Muuttujat& m) { (*this)(m.TilanteenVersio); }
     void TarvikkeetLuettu() {
         if (kesken) RakennaTarvikelistat(peli);
     }
@@ -299,13 +303,9 @@ bool AvaaTilanne(Peli& peli, const std::string& nimi) {
                                   });
     if (!valmis) return true;
 
-    // The first line is the writer's version; the running program keeps its own.
     peli.Ladataan = true;
     Lukija lukija{peli, rivit};
-    const Single versio = m.Versio;
     Kentät(m, lukija);
-    m.TilanteenVersio = m.Versio;
-    m.Versio = versio;
     peli.Ladataan = false;
     if (!lukija.kesken) return true;
 
