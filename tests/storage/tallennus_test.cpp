@@ -5,6 +5,7 @@
 #include <random>
 
 #include "core/alku.h"
+#include "core/kuukausi.h"
 #include "storage/crc.h"
 #include "storage/sinetti.h"
 #include "storage/tallennus.h"
@@ -395,6 +396,26 @@ TEST(SaveFile, TheStartScreensContinueOpensTheLastSave) {
     t.Tapahtumat();
     EXPECT_FALSE(JatkaTilannetta(t.peli));
     EXPECT_EQ(t.Tapahtumat().back(), "LOPPU");
+}
+
+// With autosave on the month end keeps day 31 of the old month as "Autosave", leaving the name box
+// and the continue button's name alone.
+TEST(SaveFile, TheMonthEndAutosaveHoldsTheOldMonth) {
+    testi::Testipeli t;
+    t.Aloita();
+    t.peli.asetukset.Autotallennus = true;
+    t.peli.tilanneruutu.Kohde = "Oma";
+    t.m.Päivä = 31;
+    t.m.Kuukausi = 6;
+    t.m.Raha = 5000;
+    Kuukaudenvaihde(t.peli);
+    EXPECT_EQ(t.peli.tilanneruutu.Kohde, "Oma");
+    EXPECT_FALSE(fs::exists(t.peli.kansiot.data / "Savetus.dat"));
+    testi::Testipeli avaaja;
+    for (const char* tiedosto : {"Autosave.sav", "Autosave.fxf"})
+        fs::copy_file(t.peli.kansiot.data / tiedosto, avaaja.peli.kansiot.data / tiedosto);
+    ASSERT_TRUE(AvaaTilanne(avaaja.peli, "Autosave"));
+    EXPECT_EQ(std::tuple(avaaja.m.Päivä, avaaja.m.Kuukausi), std::tuple(Byte{31}, Byte{6}));
 }
 
 // An old save is written over only on "Kyllä"; "Ei" leaves both files as they were. The name's
