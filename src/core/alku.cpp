@@ -186,8 +186,7 @@ bool JatkaTilannetta(Peli& peli) {
     Aseta(m.PakkaamoMax, 1000);
     Aseta(m.PakkaamoKerroin, 0.1);
     m.VikaLaskuri = 0;
-    AvaaTilanne(peli, a.Viime);
-    const bool avattu = m.VikaLaskuri == 0;
+    const bool avattu = AvaaTilanne(peli, a.Viime) && m.VikaLaskuri == 0;
     if (avattu) {
         PerusHinnat(peli);
         AsetaVuodenaika(m);
@@ -217,6 +216,7 @@ void NollaaRuudut(Peli& peli) {
     peli.rakennusruutu = RakennusRuutuTila{};
     peli.pankkiruutu = PankkiRuutuTila{};
     peli.tarvikeruutu = TarvikeRuutuTila{};
+    peli.tilanneruutu = TilanneRuutuTila{};
     peli.käynnissä = false;
 }
 

@@ -11,6 +11,7 @@
 #include "../buildings/tarvikeruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
+#include "../storage/tallennus.h"
 #include "../workforce/työvoimaruutu.h"
 #include "arvonta.h"
 #include "kanavat.h"
@@ -91,6 +92,9 @@ struct Peli {
     TyövoimaRuutuTila työvoimaruutu;  // the staff screen's list, choice and labels
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
+    TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    // On while a save's values are read: the switches it sets stay silent.
+    bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened
     // The day's store load while a day runs: taken once, before the herd's output, and read by
     // every shift of the day, so goods made later today don't block today's work.

@@ -139,6 +139,7 @@ const Toimintoluettelo& Toiminnot() {
         RakennustenToiminnot(t);
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
+        TilanteenToiminnot(t);
         Siirtymät(t);
         return t;
     }();
