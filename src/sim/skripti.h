@@ -50,6 +50,11 @@ void VaadiPainettava(const Peli& peli, const std::string& ohjain);
 // one and lies in [pienin, suurin]; nothing is narrowed before the check.
 long long Luku(const std::string& sana, const std::string& mikä, long long pienin, long long suurin);
 
+// A press of a control: skipped unless the player could click it, then the operation runs.
+Toiminto Painallus(std::string ohjain, void (*f)(Peli&));
+// A check box typed as 1 or 0 (on or off, True or False); anything else is a malformed line.
+bool Kytkin(const std::string& sana, const std::string& mikä);
+
 // An operation that takes no arguments.
 Toiminto Pelkkä(void (*f)(Peli&));
 

@@ -19,6 +19,19 @@
 
 namespace tanhua {
 
+Toiminto Painallus(std::string ohjain, void (*f)(Peli&)) {
+    return Toiminto{0, 0, [ohjain = std::move(ohjain), f](Peli& peli, const std::vector<std::string>&) {
+                        VaadiPainettava(peli, ohjain);
+                        f(peli);
+                    }};
+}
+
+bool Kytkin(const std::string& sana, const std::string& mikä) {
+    if (sana == "1" || sana == "on" || sana == "True") return true;
+    if (sana == "0" || sana == "off" || sana == "False") return false;
+    throw std::runtime_error(mikä + " is 1 or 0 (on or off): '" + sana + "'");
+}
+
 Toiminto Pelkkä(void (*f)(Peli&)) {
     return Toiminto{0, 0, [f](Peli& peli, const std::vector<std::string>&) { f(peli); }};
 }

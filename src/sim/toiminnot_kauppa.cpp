@@ -45,14 +45,6 @@ Toiminto Painike(void (*painike)(Peli&), const char* ohjain) {
                     }};
 }
 
-// A stepper of the lot, on the card.
-Toiminto Askel(void (*askel)(Peli&), const char* ohjain) {
-    return Toiminto{0, 0, [askel, ohjain](Peli& peli, const std::vector<std::string>&) {
-                        VaadiPainettava(peli, ohjain);
-                        askel(peli);
-                    }};
-}
-
 int Laatikko(const std::string& nimi) {
     static constexpr std::array<const char*, 5> NIMET{"TeurasLehmä", "TeurasLammas", "TeurasSika", "TeurasKana",
                                                       "TeurasKettu"};
@@ -62,25 +54,17 @@ int Laatikko(const std::string& nimi) {
                              "': TeurasLehmä, TeurasLammas, TeurasSika, TeurasKana or TeurasKettu");
 }
 
-bool Kytkin(const std::string& sana) {
-    if (sana == "1" || sana == "True") return true;
-    if (sana == "0" || sana == "False") return false;
-    throw std::runtime_error("a check box is 1 or 0: '" + sana + "'");
-}
 
 }  // namespace
 
 void EläinkaupanToiminnot(Toimintoluettelo& t) {
     t["AutoTeurastus"] = Pelkkä(AutoTeurastus);
-    t["Eläimet.Avaa"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
-                                     VaadiPainettava(peli, "Tanhua.Command1");
-                                     AvaaEläimet(peli);
-                                 }};
+    t["Eläimet.Avaa"] = Pelkkä(AvaaEläimet);
     t["Eläimet.ValitseEläin"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                              ValitseEläin(peli, Kortti(a[0]));
                                          }};
-    t["Eläimet.määräplus"] = Askel(määräplus, "Eläimet.määräplus");
-    t["Eläimet.määrämiinus"] = Askel(määrämiinus, "Eläimet.määrämiinus");
+    t["Eläimet.määräplus"] = Painallus("Eläimet.määräplus", määräplus);
+    t["Eläimet.määrämiinus"] = Painallus("Eläimet.määrämiinus", määrämiinus);
     t["Eläimet.Osta"] = Painike(Osta, "Eläimet.Command4");
     t["Eläimet.Myy"] = Painike(Myy, "Eläimet.Command3");
     t["Eläimet.Teurasta"] = Painike(Teurasta, "Eläimet.Command2");
@@ -94,7 +78,7 @@ void EläinkaupanToiminnot(Toimintoluettelo& t) {
                                         }};
     t["Eläimet.Teuraslaatikko"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
                                                const int laatikko = Laatikko(a[0]);
-                                               const bool päällä = Kytkin(a[1]);
+                                               const bool päällä = Kytkin(a[1], "an order box");
                                                VaadiPainettava(peli, "Eläimet." + a[0]);
                                                AsetaTeuraslaatikko(peli, laatikko, päällä);
                                            }};

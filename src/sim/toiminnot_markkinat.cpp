@@ -17,11 +17,6 @@ Tuote TuoteSanasta(const std::string& sana) {
     return static_cast<Tuote>(k);
 }
 
-bool Kytkin(const std::string& sana) {
-    if (sana == "1" || sana == "on") return true;
-    if (sana == "0" || sana == "off") return false;
-    throw std::runtime_error("a check box is on or off (1 or 0): '" + sana + "'");
-}
 
 // The card's prices are worked out when the screen opens, so its operations need it open.
 void VaadiAuki(const Peli& peli) {
@@ -64,10 +59,7 @@ void MarkkinoidenToiminnot(Toimintoluettelo& t) {
     t["PäivitäTuotteet"] = Pelkkä(PäivitäTuotteet);
     t["Pankki.PörssiRaportti"] = Pelkkä([](Peli& p) { VaadiPainettava(p, "Pankki.Command6"); PörssiRaportti(p); });
 
-    t["Tuotteet.Avaa"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
-                                      VaadiPainettava(peli, "Tanhua.Command3");
-                                      AvaaTuotteet(peli);
-                                  }};
+    t["Tuotteet.Avaa"] = Pelkkä(AvaaTuotteet);
     t["Tuotteet.AvaaTuote"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                            const Tuote k = TuoteSanasta(a[0]);
                                            VaadiAuki(peli);
@@ -77,18 +69,15 @@ void MarkkinoidenToiminnot(Toimintoluettelo& t) {
     t["Tuotteet.MyyPuolet"] = Kortilla(MyyPuolet, "Tuotteet.Command6");
     t["Tuotteet.OstaRehua"] = Kortilla(OstaRehua, "Tuotteet.Command3", true);
     t["Tuotteet.Tuotelisäasetus"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                                 const bool päällä = Kytkin(a[0]);
+                                                 const bool päällä = Kytkin(a[0], "the extra setting");
                                                  VaadiPainettava(peli, "Tuotteet.Tuotelisäasetus");
                                                  Tuotelisäasetus(peli, päällä);
                                              }};
-    t["Tuotteet.KirjanpitäjäKuva"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
-                                                  VaadiPainettava(peli, "Tuotteet.KirjanpitäjäKuva");
-                                                  KirjanpitäjäKuva(peli);
-                                              }};
+    t["Tuotteet.KirjanpitäjäKuva"] = Painallus("Tuotteet.KirjanpitäjäKuva", KirjanpitäjäKuva);
     // The accountant's settings sit on his panel.
     t["Tuotteet.Myy"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
                                      const Tuote k = TuoteSanasta(a[0]);
-                                     const bool päällä = Kytkin(a[1]);
+                                     const bool päällä = Kytkin(a[1], "a sale box");
                                      VaadiPainettava(peli, "Tuotteet." + AsetuksenNimi(k));
                                      AsetaAutomyynti(peli, k, päällä);
                                  }};
@@ -98,10 +87,10 @@ void MarkkinoidenToiminnot(Toimintoluettelo& t) {
                                        KäännäTyyli(peli, k);
                                    }};
     t["Tuotteet.rulla"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                       if (a[0] != "0" && a[0] != "1")
-                                           throw std::runtime_error("the box is 0 (joka kuukausi) or 1 (joka viikko)");
+                                       // 1 sells every week, 0 once a month.
+                                       const bool viikoittain = Kytkin(a[0], "the sale time");
                                        VaadiPainettava(peli, "Tuotteet.rulla");
-                                       AsetaMyyntiaika(peli, a[0] == "1" ? 1 : 0);
+                                       AsetaMyyntiaika(peli, viikoittain ? 1 : 0);
                                    }};
     // Hovering needs no click, but a hidden button or picture can't be hovered.
     t["Tuotteet.Osoitin"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {

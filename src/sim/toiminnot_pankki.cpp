@@ -13,13 +13,6 @@ namespace {
 
 // A button of the bank pressed by its control's name: skipped when the player couldn't click it
 // (its sheet hidden, "Hyväksy" off after a loan, the market report over the bank).
-Toiminto Nappi(const char* ohjain, void (*f)(Peli&)) {
-    return Toiminto{0, 0, [ohjain, f](Peli& peli, const std::vector<std::string>&) {
-                        VaadiPainettava(peli, std::string("Pankki.") + ohjain);
-                        f(peli);
-                    }};
-}
-
 void Vahvista(Peli& peli) {
     VaadiPainettava(peli, "Pankki.Command8");
     VahvistaLappu(peli);
@@ -47,11 +40,8 @@ void PankinToiminnot(Toimintoluettelo& t) {
     t["Pankki.PäivitäVakuutus"] = Pelkkä(PäivitäVakuutus);
     t["Pankki.LaskeVaku"] = Pelkkä(LaskeVaku);
 
-    t["Pankki.Avaa"] = Pelkkä([](Peli& peli) {
-        VaadiPainettava(peli, "Tanhua.Command6");
-        AvaaPankki(peli);
-    });
-    t["Pankki.Sulje"] = Nappi("Command1", SuljePankki);
+    t["Pankki.Avaa"] = Pelkkä(AvaaPankki);
+    t["Pankki.Sulje"] = Painallus("Pankki.Command1", SuljePankki);
     // Esc is a key, not a button: only the market report over the bank keeps it away.
     t["Pankki.Esc"] = Pelkkä([](Peli& peli) {
         if (!peli.näkymä.PankkiKäytössä) Ohita();
@@ -59,17 +49,17 @@ void PankinToiminnot(Toimintoluettelo& t) {
     });
 
     // The buttons one by one.
-    t["Pankki.OtaLainaa"] = Nappi("Command2", OtaLainaa);
-    t["Pankki.AikaAlas"] = Nappi("Command9", LyhennäMaksuaikaa);
-    t["Pankki.AikaYlös"] = Nappi("Command10", PidennäMaksuaikaa);
+    t["Pankki.OtaLainaa"] = Painallus("Pankki.Command2", OtaLainaa);
+    t["Pankki.AikaAlas"] = Painallus("Pankki.Command9", LyhennäMaksuaikaa);
+    t["Pankki.AikaYlös"] = Painallus("Pankki.Command10", PidennäMaksuaikaa);
     t["Pankki.Summa"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                      VaadiPainettava(peli, "Pankki.summa");
                                      KirjoitaSumma(peli, a[0]);
                                  }};
     t["Pankki.Vahvista"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { Vahvista(peli); }};
-    t["Pankki.SuljeLappu"] = Nappi("Command7", SuljeLappu);
-    t["Pankki.Lyhennä"] = Nappi("Command3", MaksaLaina);
-    t["Pankki.Nosta"] = Nappi("Command5", NostaTalletukset);
+    t["Pankki.SuljeLappu"] = Painallus("Pankki.Command7", SuljeLappu);
+    t["Pankki.Lyhennä"] = Painallus("Pankki.Command3", MaksaLaina);
+    t["Pankki.Nosta"] = Painallus("Pankki.Command5", NostaTalletukset);
 
     // A loan as the player takes it: a fresh sheet, the period stepped up to, the sum typed, confirm.
     // A refused sheet ends it there.
@@ -92,14 +82,13 @@ void PankinToiminnot(Toimintoluettelo& t) {
                                    }};
 
     // The insurance sheet.
-    t["Pankki.Vakuutukset"] = Nappi("vaku", AvaaVakuutukset);
-    t["Pankki.SuljeVakuutukset"] = Nappi("Command11", SuljeVakuutukset);
+    t["Pankki.Vakuutukset"] = Painallus("Pankki.vaku", AvaaVakuutukset);
+    t["Pankki.SuljeVakuutukset"] = Painallus("Pankki.Command11", SuljeVakuutukset);
     t["Pankki.Vakuutus"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
                                         const Vakuutus v = VakuutusSanasta(a[0]);
-                                        if (a[1] != "0" && a[1] != "1")
-                                            throw std::runtime_error("a policy's box is 0 or 1: '" + a[1] + "'");
+                                        const bool päällä = Kytkin(a[1], "a policy's box");
                                         VaadiPainettava(peli, "Pankki." + std::string(VAKUUTUSTAULU[v].laatikko));
-                                        VaihdaVakuutus(peli, v, a[1] == "1");
+                                        VaihdaVakuutus(peli, v, päällä);
                                     }};
     // The pointer on a box, or on the text below them; the sheet must show.
     t["Pankki.Osoita"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {

@@ -40,14 +40,6 @@ Toiminto Toimi(const char* teksti) {
                     }};
 }
 
-// A list button, pressed only when the player could press it.
-Toiminto Nappi(const char* ohjain, void (*f)(Peli&)) {
-    return Toiminto{0, 0, [ohjain, f](Peli& peli, const std::vector<std::string>&) {
-                        VaadiPainettava(peli, ohjain);
-                        f(peli);
-                    }};
-}
-
 }  // namespace
 
 void TarvikkeidenToiminnot(Toimintoluettelo& t) {
@@ -56,10 +48,10 @@ void TarvikkeidenToiminnot(Toimintoluettelo& t) {
                                         if (!TarvikkeetAuki(peli.m)) Ohita();
                                         AvaaTarvikkeet(peli);
                                     }};
-    t["Tarvikkeet.Yleiset"] = Nappi("Tarvikkeet.Command4", NäytäYleiset);
-    t["Tarvikkeet.Lisälaitteet"] = Nappi("Tarvikkeet.Command3", NäytäLisälaitteet);
-    t["Tarvikkeet.Työkoneet"] = Nappi("Tarvikkeet.Command2", NäytäTyökoneet);
-    t["Tarvikkeet.Omat"] = Nappi("Tarvikkeet.Command6", NäytäOmat);
+    t["Tarvikkeet.Yleiset"] = Painallus("Tarvikkeet.Command4", NäytäYleiset);
+    t["Tarvikkeet.Lisälaitteet"] = Painallus("Tarvikkeet.Command3", NäytäLisälaitteet);
+    t["Tarvikkeet.Työkoneet"] = Painallus("Tarvikkeet.Command2", NäytäTyökoneet);
+    t["Tarvikkeet.Omat"] = Painallus("Tarvikkeet.Command6", NäytäOmat);
     t["Tarvikkeet.Valitse"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                            ValitseTarvike(peli, Rivi(peli, a[0]));
                                        }};

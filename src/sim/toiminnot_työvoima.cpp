@@ -41,10 +41,7 @@ Toiminto Painike(void (*painike)(Peli&), const char* nappi) {
 }  // namespace
 
 void TyövoimanToiminnot(Toimintoluettelo& t) {
-    t["Työvoima.Avaa"] = Pelkkä([](Peli& peli) {
-        VaadiPainettava(peli, "Tanhua.Command8");
-        AvaaTyövoima(peli);
-    });
+    t["Työvoima.Avaa"] = Pelkkä(AvaaTyövoima);
     t["Työvoima.Valitse"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                          ValitseTyöläinen(peli, ListaltaNimellä(peli, a[0]));
                                      }};
@@ -74,12 +71,11 @@ void TyövoimanToiminnot(Toimintoluettelo& t) {
     // Overtime on or off: the job is chosen, then its button pressed; a job whose overtime can't
     // be set has both buttons off.
     t["Työvoima.Ylityö"] = Toiminto{2, 2, [](Peli& peli, const std::vector<std::string>& a) {
-                                        if (a[1] != "0" && a[1] != "1")
-                                            throw std::runtime_error("overtime is 1 (on) or 0 (off): '" + a[1] + "'");
+                                        const bool päälle = Kytkin(a[1], "overtime");
                                         const Työläinen k = ListaltaNimellä(peli, a[0]);
                                         if (!YlityöAsetettavissa(k)) Ohita();
                                         ValitseTyöläinen(peli, k);
-                                        if (a[1] == "1") YlityöPäälle(peli);
+                                        if (päälle) YlityöPäälle(peli);
                                         else YlityöPois(peli);
                                     }};
     t["Työvoima.Takaisin"] = Pelkkä(SuljeTyövoima);
