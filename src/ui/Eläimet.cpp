@@ -251,9 +251,7 @@ void Eläimet::Päivitä() {
     akkuna_->setVisible(kortti.näkyvissä);
     if (kortti.näkyvissä) {
         otsikko_->setText(QString::fromStdString(kortti.arvo));
-        const Ohjain kuva = Lue(peli_, "KorttiKuva");
-        korttikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/Eläimet/" + kuva.arvo).scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        korttikuva_->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
+        NäytäKuva(peli_, korttikuva_, "Kuvat/Eläimet/", Lue(peli_, "KorttiKuva"), 96);
         const std::array<std::pair<QWidget*, const char*>, 12> kortilla{
             std::pair<QWidget*, const char*>{info_, "Info"}, {ostohinta_, "Ostohinta"}, {myyntihinta_, "Myyntihinta"},
             {liha_, "Lihaa"}, {määrä_, "määrä"}, {yhtosto_, "yhtosto"}, {yhtmyynti_, "yhtmyynti"},

@@ -158,6 +158,15 @@ Ohjain LueRuudulta(const Peli& peli, std::string_view ruutu, const std::string& 
     return LueOhjain(peli, std::string(ruutu) + "." + nimi).value_or(Piilossa());
 }
 
+void NäytäKuva(const Peli& peli, QLabel* l, const std::string& kansio, const Ohjain& o, int koko) {
+    l->setVisible(o.näkyvissä);
+    if (!o.näkyvissä) return;
+    const QPixmap kuva = KuvaJosOn(peli, kansio + o.arvo);
+    l->setPixmap(koko > 0 ? kuva.scaled(koko, koko, Qt::KeepAspectRatio, Qt::SmoothTransformation) : kuva);
+    if (!o.vihje.empty()) l->setToolTip(Q(o.vihje));
+    l->setProperty("tiedosto", Q(o.arvo));
+}
+
 void Näytä(QWidget* w, const Ohjain& o) {
     if (auto* c = qobject_cast<QCheckBox*>(w)) {
         const QSignalBlocker esto(c);

@@ -48,6 +48,9 @@ Ohjain LueRuudulta(const Peli& peli, std::string_view ruutu, const std::string& 
 // A widget takes its control: a check box its state, a label or button its text, and whether it
 // shows and takes clicks.
 void Näytä(QWidget* w, const Ohjain& o);
+// A picture label takes its control: shown or not, the file of the folder ("Kuvat/sää/") scaled to
+// `koko` pixels when it is given, its hint, and the file's name kept on the label.
+void NäytäKuva(const Peli& peli, QLabel* l, const std::string& kansio, const Ohjain& o, int koko = 0);
 
 // The toolkit's own texts in Finnish ("Kyllä" and "Ei" on its boxes), from its translation when the
 // machine has it. Called once, after the application is made.

@@ -253,21 +253,9 @@ void Tanhua::Päivitä() {
                                      .arg(*aste.väri & 0xFF)
                                      .arg((*aste.väri >> 8) & 0xFF)
                                      .arg((*aste.väri >> 16) & 0xFF));
-    const Ohjain sää = lue("Sää");
-    sää_->setVisible(sää.näkyvissä);
-    if (sää.näkyvissä) {
-        sää_->setPixmap(KuvaJosOn(peli_, "Kuvat/sää/" + sää.arvo));
-        sää_->setToolTip(Q(sää.vihje));
-        sää_->setProperty("tiedosto", Q(sää.arvo));
-    }
+    NäytäKuva(peli_, sää_, "Kuvat/sää/", lue("Sää"));
     for (int i = 0; i < 4; ++i) mittarit_[i]->Aseta(l.mittarit[i]);
-    for (int i = 0; i < 5; ++i) {
-        const Ohjain tähti = lue("TP_Kuva(" + std::to_string(i) + ")");
-        tähdet_[i]->setVisible(tähti.näkyvissä);
-        if (!tähti.näkyvissä) continue;
-        tähdet_[i]->setPixmap(KuvaJosOn(peli_, "Kuvat/" + tähti.arvo));
-        tähdet_[i]->setProperty("tiedosto", Q(tähti.arvo));
-    }
+    for (int i = 0; i < 5; ++i) NäytäKuva(peli_, tähdet_[i], "Kuvat/", lue("TP_Kuva(" + std::to_string(i) + ")"));
     if (tausta_ != l.Tausta) {
         tausta_ = l.Tausta;
         AsetaKuva(KuvaJosOn(peli_, l.Tausta));

@@ -200,10 +200,7 @@ void Tuotteet::Päivitä() {
     akkuna_->setVisible(kortti.näkyvissä);
     if (kortti.näkyvissä) {
         nimi_->setText(QString::fromStdString(kortti.arvo));
-        const Ohjain kuva = Lue(peli_, "KorttiKuva");
-        korttikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + kuva.arvo)
-                                   .scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        korttikuva_->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
+        NäytäKuva(peli_, korttikuva_, "Kuvat/tuotteet/", Lue(peli_, "KorttiKuva"), 96);
         const std::array<std::pair<QWidget*, const char*>, 10> kortilla{
             std::pair<QWidget*, const char*>{hinta_, "hinta"}, {kurssi_, "kurssi"}, {vAika_, "vAika"},
             {yhinta_, "yhinta"}, {kpl_, "kpl"}, {yhthinta_, "Yhthinta"}, {myyKaikki_, "Command2"},
