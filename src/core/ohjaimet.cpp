@@ -1,7 +1,7 @@
 // The controls of every screen by name, and how the runner writes them.
 #include "ohjaimet.h"
 
-#include <cstdio>
+#include "viestit.h"
 
 namespace tanhua {
 
@@ -71,20 +71,9 @@ bool Painettavissa(const Peli& peli, const std::string& nimi) {
 
 std::string OhjainTekstinä(const Ohjain& o) {
     if (!o.näkyvissä) return "piilossa";
-    std::string t;
-    for (char c : o.arvo) {
-        if (c == '\r') continue;
-        if (c == '\n') t += "\\n";
-        else t += c;
-    }
-    if (o.väri) {
-        char väri[32];
-        std::snprintf(väri, sizeof väri, "|%u,%u,%u", *o.väri & 0xFF, (*o.väri >> 8) & 0xFF, (*o.väri >> 16) & 0xFF);
-        t += väri;
-    } else if (!o.vihje.empty()) {
-        t += '|' + OhjainTekstinä(Näkyvä(o.vihje));  // a hint's line feeds are written "\n" too
-    }
-    return t;
+    if (o.väri) return YhdelleRiville(o.arvo) + "|" + VäriTekstinä(*o.väri);
+    if (!o.vihje.empty()) return YhdelleRiville(o.arvo) + "|" + YhdelleRiville(o.vihje);
+    return YhdelleRiville(o.arvo);
 }
 
 Ohjain Näkyvä(std::string arvo, bool käytössä) {

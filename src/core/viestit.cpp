@@ -15,6 +15,20 @@ std::string Rivitä(std::initializer_list<std::string> rivit) {
     return t;
 }
 
+std::string YhdelleRiville(const std::string& teksti) {
+    std::string ulos;
+    for (std::size_t i = 0; i < teksti.size(); ++i) {
+        if (teksti[i] == '\r' && i + 1 < teksti.size() && teksti[i + 1] == '\n') continue;
+        if (teksti[i] == '\n' || teksti[i] == '\r') ulos += "\\n";
+        else ulos += teksti[i];
+    }
+    return ulos;
+}
+
+std::string VäriTekstinä(std::uint32_t väri) {
+    return std::to_string(väri & 0xFF) + "," + std::to_string((väri >> 8) & 0xFF) + "," + std::to_string((väri >> 16) & 0xFF);
+}
+
 std::string Kysy(Peli& peli, const std::string& teksti, int tyyli) {
     Näkymä& n = peli.näkymä;
     n.MsgTeksti = teksti;

@@ -1,6 +1,7 @@
 // The game's side of the channels: the Message box, the news window, the event list and sounds.
 #pragma once
 
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 
@@ -10,6 +11,11 @@ struct Peli;
 
 // The lines of a message joined by line feeds.
 std::string Rivitä(std::initializer_list<std::string> rivit);
+
+// A text on one line, as the runner writes it: a line feed (CR LF, LF or a lone CR) is written \n.
+std::string YhdelleRiville(const std::string& teksti);
+// A colour of the channels (kanavat.h RGB) written "R,G,B".
+std::string VäriTekstinä(std::uint32_t väri);
 
 // Asks through the Message box (style 0: "Sulje"; style 1: "Kyllä"/"Ei") and returns the answer.
 std::string Kysy(Peli& peli, const std::string& teksti, int tyyli);

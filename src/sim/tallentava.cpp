@@ -1,19 +1,8 @@
 // Recording channels of the headless runner and the tests.
 #include "tallentava.h"
 
-#include <cstdio>
 
 namespace tanhua {
-
-std::string YhdelleRiville(const std::string& teksti) {
-    std::string ulos;
-    for (std::size_t i = 0; i < teksti.size(); ++i) {
-        if (teksti[i] == '\r' && i + 1 < teksti.size() && teksti[i + 1] == '\n') continue;
-        if (teksti[i] == '\n' || teksti[i] == '\r') ulos += "\\n";
-        else ulos += teksti[i];
-    }
-    return ulos;
-}
 
 std::string TallentavatKanavat::SeuraavaVastaus(const std::string& oletus) {
     if (vastaukset.empty()) return oletus;
@@ -49,9 +38,7 @@ void TallentavatKanavat::Loppu() {
 void TallentavatKanavat::Rivit(const char* otsake, const RaporttiSivu& sivu) {
     tapahtumat.push_back(otsake + YhdelleRiville(sivu.otsikko));
     for (const RaporttiRivi& rivi : sivu.rivit) {
-        char väri[32];
-        std::snprintf(väri, sizeof väri, "%u,%u,%u", rivi.väri & 0xFF, (rivi.väri >> 8) & 0xFF, (rivi.väri >> 16) & 0xFF);
-        tapahtumat.push_back(std::string("RIVI|") + väri + "|" + std::to_string(rivi.sarake) + "|" +
+        tapahtumat.push_back("RIVI|" + VäriTekstinä(rivi.väri) + "|" + std::to_string(rivi.sarake) + "|" +
                              YhdelleRiville(rivi.teksti));
     }
 }

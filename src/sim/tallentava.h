@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/kanavat.h"
+#include "core/viestit.h"
 
 namespace tanhua {
 
@@ -38,7 +39,5 @@ private:
     void Rivit(const char* otsake, const RaporttiSivu& sivu);
 };
 
-// A text on one line: a line feed is written \n.
-std::string YhdelleRiville(const std::string& teksti);
 
 }  // namespace tanhua
