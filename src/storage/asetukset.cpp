@@ -124,7 +124,7 @@ std::string AsetaAsetus(Asetukset& a, std::size_t rivi, const std::string& arvo)
     if (!arvo.empty() && arvo.size() <= 3 && arvo.find_first_not_of("0123456789") == std::string::npos)
         luku = std::stoi(arvo);
     if (luku < 0 || luku > 100) return std::string(r.nimi) + " is a whole number from 0 to 100, not '" + arvo + "'";
-    a.AnimNopeus = static_cast<Integer>(luku);
+    Aseta(a.AnimNopeus, luku);
     return "";
 }
 

@@ -100,7 +100,7 @@ Asetukset AsetusIkkuna::Valitut() const {
     Asetukset a;
     for (std::size_t i = 0; i < ASETUSRIVIT.size(); ++i)
         if (valinnat_[i]) a.*ASETUSRIVIT[i].totuus = valinnat_[i]->isChecked();
-    a.AnimNopeus = static_cast<Integer>(nopeus_->value());
+    Aseta(a.AnimNopeus, nopeus_->value());
     return a;
 }
 

@@ -49,7 +49,7 @@ int Listaa(const tanhua::Asetustila& tila) {
     return 0;
 }
 
-int Aseta(const tanhua::Kansiot& kansiot, tanhua::Asetustila tila, const std::vector<std::string>& muutokset) {
+int AsetaKomennolla(const tanhua::Kansiot& kansiot, tanhua::Asetustila tila, const std::vector<std::string>& muutokset) {
     // Every change is checked before the file is touched.
     for (const std::string& m : muutokset) {
         const auto yhtä = m.find('=');
@@ -103,7 +103,7 @@ int main(int argc, char** argv) {
     tanhua::AlustaDatakansio(kansiot);
     const tanhua::Asetustila tila = tanhua::LueAsetustila(kansiot);
     if (lista) return Listaa(tila);
-    if (!muutokset.empty()) return Aseta(kansiot, tila, muutokset);
+    if (!muutokset.empty()) return AsetaKomennolla(kansiot, tila, muutokset);
 
     QApplication sovellus(argc, argv);
     QApplication::setApplicationName("Tanhuan asetukset");
