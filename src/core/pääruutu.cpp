@@ -58,6 +58,12 @@ void Päivitälukemat(Peli& peli) {
     l.Versio = "v " + Str(m.Versio);
 }
 
+void AvaaAlaruutu(Peli& peli, const std::function<void()>& avaa) {
+    peli.näkymä.PääruutuNäkyvissä = false;
+    avaa();
+    NäytäRaha(peli);
+}
+
 void NäytäRaha(Peli& peli) { peli.näkymä.lukemat.Rahatilaz = RahaKylttiMuoto(peli.m.Raha); }
 
 void PalaaPääruutuun(Peli& peli) {

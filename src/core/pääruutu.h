@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 namespace tanhua {
@@ -42,6 +43,9 @@ std::string RahaKylttiMuoto(double r);
 void Päivitälukemat(Peli& peli);
 // NäytäRaha: the money plate's text after a trade on a sub-screen.
 void NäytäRaha(Peli& peli);
+// The opening of a sub-screen from the main screen: the main screen hides, the screen's own opening
+// work runs, and the money plate shows beside it.
+void AvaaAlaruutu(Peli& peli, const std::function<void()>& avaa);
 // PalaaPääruutuun: the main screen shown again: the star locks of two buttons, hygiene, figures.
 void PalaaPääruutuun(Peli& peli);
 // "Lopeta peli" and Esc: asks; true when the player wants to quit.

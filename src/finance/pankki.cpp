@@ -180,14 +180,15 @@ void SuljePankki(Peli& peli) {
     peli.pankkiruutu.auki = false;
 }
 
-void PankkiEsc(Peli& peli) {
+bool PankkiEsc(Peli& peli) {
     PankkiRuutuTila& r = peli.pankkiruutu;
     if (r.VakuLappu || r.Lappu) {
         r.VakuLappu = false;
         SuljeLappu(peli);
-        return;
+        return false;
     }
     SuljePankki(peli);
+    return true;
 }
 
 void OtaLainaa(Peli& peli) {

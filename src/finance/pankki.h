@@ -33,7 +33,8 @@ void AvaaPankki(Peli& peli);
 // Command1: the screen closes; a market report still over it goes with it.
 void SuljePankki(Peli& peli);
 // Esc: with a sheet showing, hides both sheets (enabling Command8 again); otherwise closes the screen.
-void PankkiEsc(Peli& peli);
+// True when the screen was left.
+bool PankkiEsc(Peli& peli);
 
 void OtaLainaa(Peli& peli);         // Command2: a fresh loan sheet, unless a loan is open
 void LyhennäMaksuaikaa(Peli& peli); // Command9: one period shorter, stopping at "6 kk"

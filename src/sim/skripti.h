@@ -52,6 +52,9 @@ long long Luku(const std::string& sana, const std::string& mikä, long long pien
 
 // A press of a control: skipped unless the player could click it, then the operation runs.
 Toiminto Painallus(std::string ohjain, void (*f)(Peli&));
+// Esc on a screen: the screen's rule hides what is open on it or leaves it (true); leaving brings
+// the main screen back, as the window's frame does.
+Toiminto EscNäppäin(bool (*esc)(Peli&));
 // A check box typed as 1 or 0 (on or off, True or False); anything else is a malformed line.
 bool Kytkin(const std::string& sana, const std::string& mikä);
 

@@ -26,6 +26,12 @@ Toiminto Painallus(std::string ohjain, void (*f)(Peli&)) {
                     }};
 }
 
+Toiminto EscNäppäin(bool (*esc)(Peli&)) {
+    return Toiminto{0, 0, [esc](Peli& peli, const std::vector<std::string>&) {
+                        if (esc(peli)) PalaaPääruutuun(peli);
+                    }};
+}
+
 bool Kytkin(const std::string& sana, const std::string& mikä) {
     if (sana == "1" || sana == "on" || sana == "True") return true;
     if (sana == "0" || sana == "off" || sana == "False") return false;
@@ -57,12 +63,9 @@ bool Aina(const Peli&) { return true; }
 const Poistuminen POISTUMISET[] = {
     {"Eläimet.Takaisin", Aina},
     {"Tuotteet.Sulje", Aina},
-    // Esc hides the card or the panel first; only with neither showing does it leave.
-    {"Tuotteet.Esc", [](const Peli& p) { return !(p.tuoteruutu.akkuna || p.tuoteruutu.taulu); }},
     {"Rakennukset.Sulje", Aina},
     {"Työvoima.Takaisin", Aina},
     {"Pankki.Sulje", Aina},
-    {"Pankki.Esc", [](const Peli& p) { return !(p.pankkiruutu.VakuLappu || p.pankkiruutu.Lappu); }},
     {"Tarvikkeet.Sulje", Aina},
 };
 
@@ -71,9 +74,7 @@ void Siirtymät(Toimintoluettelo& t) {
         Toiminto& avaa = t.at(std::string(r.nimi) + ".Avaa");
         avaa.aja = [työ = avaa.aja, nappi = std::string(r.nappi)](Peli& peli, const std::vector<std::string>& a) {
             VaadiPainettava(peli, nappi);
-            peli.näkymä.PääruutuNäkyvissä = false;
-            työ(peli, a);
-            NäytäRaha(peli);
+            AvaaAlaruutu(peli, [&] { työ(peli, a); });
         };
     }
     for (const Poistuminen& p : POISTUMISET) {

@@ -94,7 +94,7 @@ void EläinkaupanToiminnot(Toimintoluettelo& t) {
                                            TeurasRajaMuuttui(peli, raja, a[1]);
                                        }};
     t["Eläimet.Takaisin"] = Pelkkä(Takaisin);
-    t["Eläimet.Esc"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { EläimetEsc(peli); }};
+    t["Eläimet.Esc"] = EscNäppäin(EläimetEsc);
 }
 
 }  // namespace tanhua

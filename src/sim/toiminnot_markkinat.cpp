@@ -104,7 +104,7 @@ void MarkkinoidenToiminnot(Toimintoluettelo& t) {
                                              VaadiPainettava(peli, "Tuotteet." + a[0]);
                                          OsoitinTuoteruudulla(peli, kohde);
                                      }};
-    t["Tuotteet.Esc"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { TuotteetEsc(peli); }};
+    t["Tuotteet.Esc"] = EscNäppäin(TuotteetEsc);
     t["Tuotteet.Sulje"] = Pelkkä(SuljeTuotteet);
 }
 

@@ -43,9 +43,9 @@ void PankinToiminnot(Toimintoluettelo& t) {
     t["Pankki.Avaa"] = Pelkkä(AvaaPankki);
     t["Pankki.Sulje"] = Painallus("Pankki.Command1", SuljePankki);
     // Esc is a key, not a button: only the market report over the bank keeps it away.
-    t["Pankki.Esc"] = Pelkkä([](Peli& peli) {
+    t["Pankki.Esc"] = EscNäppäin([](Peli& peli) {
         if (!peli.näkymä.PankkiKäytössä) Ohita();
-        PankkiEsc(peli);
+        return PankkiEsc(peli);
     });
 
     // The buttons one by one.

@@ -227,9 +227,9 @@ bool Pankki::eventFilter(QObject* kohde, QEvent* tapahtuma) {
 void Pankki::keyPressEvent(QKeyEvent* tapahtuma) {
     if (tapahtuma->key() == Qt::Key_Escape) {
         // With a sheet showing, Esc hides both sheets; otherwise it leaves the bank.
-        const bool lappuAuki = peli_.pankkiruutu.Lappu || peli_.pankkiruutu.VakuLappu;
-        ikkuna_.Toimi([this] { PankkiEsc(peli_); });
-        if (!lappuAuki) ikkuna_.PalaaPääruutuun();
+        bool suljettu = false;
+        ikkuna_.Toimi([this, &suljettu] { suljettu = PankkiEsc(peli_); });
+        if (suljettu) ikkuna_.PalaaPääruutuun();
         return;
     }
     Tausta::keyPressEvent(tapahtuma);

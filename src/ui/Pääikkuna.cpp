@@ -144,14 +144,14 @@ void Pääikkuna::Päivitä() {
 
 void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
     Toimi([&] {
-        peli_.näkymä.PääruutuNäkyvissä = false;
-        if (ruutu == eläimet_) eläimet_->Avaa();
-        if (ruutu == tuotteet_) tuotteet_->Avaa();
-        if (ruutu == työvoima_) työvoima_->Avaa();
-        if (ruutu == rakennukset_) rakennukset_->Avaa();
-        if (ruutu == pankki_) pankki_->Avaa();
-        if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
-        NäytäRaha(peli_);
+        AvaaAlaruutu(peli_, [&] {
+            if (ruutu == eläimet_) eläimet_->Avaa();
+            if (ruutu == tuotteet_) tuotteet_->Avaa();
+            if (ruutu == työvoima_) työvoima_->Avaa();
+            if (ruutu == rakennukset_) rakennukset_->Avaa();
+            if (ruutu == pankki_) pankki_->Avaa();
+            if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+        });
     });
     pino_->setCurrentWidget(ruutu);
     Päivitä();
