@@ -46,7 +46,6 @@ void TyömaaPäivä(Peli& peli) {
 }
 void PakkaamoPäivä(Peli& /*peli*/) {}
 void PäiväKulut(Peli& /*peli*/) {}
-void RatsastusPäivä(Peli& /*peli*/) {}
 void Jalostus(Peli& /*peli*/, Rakennus /*rakennus*/) {}
 
 }  // namespace tanhua

@@ -16,6 +16,7 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        HevostalliruudunOhjaimet(l);
         return l;
     }();
     return luettelo;

@@ -8,6 +8,7 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Hevostalli.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -36,8 +37,9 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     rakennukset_ = new Rakennukset(peli_, *this, pino_);
     pankki_ = new Pankki(peli_, *this, pino_);
     tarvikkeet_ = new Tarvikkeet(peli_, *this, pino_);
+    hevostalli_ = new Hevostalli(peli_, *this, pino_);
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
-                                                          rakennukset_, pankki_, tarvikkeet_})
+                                                          rakennukset_, pankki_, tarvikkeet_, hevostalli_})
         pino_->addWidget(ruutu);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
@@ -70,6 +72,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
+    tanhua_->AvaaHevostalli = [this] { AvaaRuutu(hevostalli_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -132,6 +135,8 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == hevostalli_) {
+        hevostalli_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -151,6 +156,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == hevostalli_) hevostalli_->Avaa();
         });
     });
     pino_->setCurrentWidget(ruutu);
@@ -199,7 +205,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_;
+           ruutu == tarvikkeet_ || ruutu == hevostalli_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }
