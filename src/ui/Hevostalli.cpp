@@ -88,6 +88,7 @@ Hevostalli::Hevostalli(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
                                   " border-radius: 8px; padding: 8px;");
     ravikustannus_->hide();
     auto* oikea = new QVBoxLayout;
+    oikea->addSpacing(50);  // below the money plate
     oikea->addWidget(hinnastoLappu_);
     oikea->addWidget(ravikustannus_);
     oikea->addStretch();
