@@ -121,40 +121,5 @@ TEST(StableDay, WeekendsAreFreeWithoutOvertimeAndPaidOnceADayWithIt) {
     }
 }
 
-TEST(StableDay, NoStableNoMareOrNoMasterHoldsNoLessons) {
-    for (int puuttuu = 0; puuttuu < 3; ++puuttuu) {
-        Talli t;
-        if (puuttuu == 0) t.m.Rak[Hevostalli] = 0;
-        if (puuttuu == 1) t.m.El[Hevonen][Naaras] = 0;
-        if (puuttuu == 2) t.m.Työ[Tallimestari] = 0;
-        RatsastusPäivä(t.peli);
-        EXPECT_EQ(t.arvontoja, 0);
-        EXPECT_TRUE(t.peli.talliruutu.Ratsastus.empty());
-    }
-}
-
-TEST(StableScreen, TheSliderSetsTheHourPriceAndTheCrowdingTakesItsColour) {
-    Talli t;
-    t.peli.asetukset.Äänitehosteet = true;
-    const int hinnat[] = {20, 40, 60, 80, 100};
-    for (int rulla : {4, 0, 3, 1, 2}) {
-        AsetaRulla(t.peli, rulla);
-        EXPECT_EQ(t.m.TuntiHinta, hinnat[rulla]);
-        EXPECT_EQ(t.Tapahtumat(), std::vector<std::string>{"ÄÄNI|siirto"});
-    }
-    AsetaRulla(t.peli, 2);
-    EXPECT_TRUE(t.Tapahtumat().empty()) << "a slider that doesn't move makes no change";
-
-    struct Väri { Long hevosia; Single laidun; int luku; std::uint32_t väri; };
-    for (const Väri& c : {Väri{29, 10, 72, RGB(50, 200, 50)}, Väri{30, 10, 75, RGB(200, 200, 80)},
-                          Väri{39, 10, 97, RGB(200, 200, 80)}, Väri{40, 10, 100, RGB(200, 50, 50)},
-                          Väri{1, 0, 100, RGB(200, 50, 50)}}) {
-        t.m.El[Hevonen][Naaras] = c.hevosia;
-        t.m.Laidun = c.laidun;
-        EXPECT_EQ(KapasiteettiLuku(t.m), c.luku) << c.hevosia;
-        EXPECT_EQ(KapasiteettiVäri(c.luku), c.väri) << c.hevosia;
-    }
-}
-
 }  // namespace
 }  // namespace tanhua
