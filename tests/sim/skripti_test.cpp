@@ -71,7 +71,10 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"file ../Asetukset.dat\n", "line 1: a file of the data folder is named without folders"},
                             {"poke Puuttuu.sav 0 1\n", "line 1: no file 'Puuttuu.sav'"},
                             {"poke Asetukset.dat 100000 1\n", "line 1: OFFSET must be within the file's"},
-                            {"poke Asetukset.dat 0 256\n", "line 1: BYTE goes from 0 to 255"}}) {
+                            {"poke Asetukset.dat 0 256\n", "line 1: BYTE goes from 0 to 255"},
+                            // The day's weather picture is -1 to 9.
+                            {"new A Vapaa 1 on\nset SääKuva 10\n", "line 2: SääKuva goes from -1 to 9: '10'"},
+                            {"new A Vapaa 1 on\nset SääKuva -2\n", "line 2: SääKuva goes from -1 to 9"}}) {
         const Ajo ajo = Aja(c.skripti);
         EXPECT_EQ(ajo.tila, 1) << c.skripti;
         EXPECT_NE(ajo.virheet.find(c.virhe), std::string::npos) << c.skripti << ajo.virheet;
