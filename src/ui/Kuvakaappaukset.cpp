@@ -18,6 +18,8 @@
 #include "workforce/työvoima.h"
 #include "core/kuukausi.h"
 #include "core/päivä.h"
+#include "core/viestit.h"
+#include "events/sattumat.h"
 #include "market/markkinat.h"
 #include "market/myynti.h"
 #include "storage/tiedostot.h"
@@ -26,6 +28,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QPainter>
 #include <QTemporaryDir>
 // std
 #include <algorithm>
@@ -79,6 +82,35 @@ bool Tallenna(QWidget* w, const QDir& kansio, const char* nimi) {
     const bool ok = w->grab().save(kansio.filePath(nimi));
     std::printf("%s %s\n", ok ? "wrote" : "FAILED", kansio.filePath(nimi).toStdString().c_str());
     return ok;
+}
+bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
+    Pääikkuna& w = n.ikkuna;
+    Peli& peli = n.peli;
+    bool ok = true;
+    Aseta(peli.m.Koko_Navetta, std::max<Single>(peli.m.Koko_Navetta, 60));
+    // No wage talks, the day's draw, number 20; the barn, the second picture, its loss and claim.
+    for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
+    tanhua::Sattumat(peli);
+    ok &= Tallenna(&w, kansio, "17-Sattuma.png");
+    w.uutiset()->Command1()->click();
+
+    const std::string uhkaus = "Maksa suojeluraha, niin navettasi ei syty niin herkästi tuleen";
+    Kerro(peli, "Kuvat/sattumat/alamaailma.jpg", uhkaus);
+    w.message()->Valmistele(uhkaus + "\nMaksatko " + Str(1480.0f) + " ?", 1);
+    w.message()->show();
+    QApplication::processEvents();
+    // The box is a window of its own: it is drawn over the middle of the main window, as it opens.
+    QPixmap kuva = w.grab();
+    {
+        QPainter maalari(&kuva);
+        const QPixmap laatikko = w.message()->grab();
+        maalari.drawPixmap((w.width() - laatikko.width()) / 2, (w.height() - laatikko.height()) / 2, laatikko);
+    }
+    const bool tallennettu = kuva.save(kansio.filePath("18-Suojeluraha.png"));
+    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("18-Suojeluraha.png").toStdString().c_str());
+    w.message()->hide();
+    w.uutiset()->Command1()->click();
+    return ok && tallennettu;
 }
 }  // namespace
 
@@ -204,6 +236,11 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
                      QMessageBox::Yes | QMessageBox::No, &w);
     vika.show();
     ok &= Tallenna(&vika, kansio, "12-VikaTila.png");
+
+    // The day's events: a barn fire with its line in the list, then the caller's demand with the
+    // question over it.
+    vika.hide();
+    ok &= KuvaaSattumat(n, kansio);
 
     // The settings tool beside the game, on the same data folder.
     AsetusIkkuna asetukset(peli);
