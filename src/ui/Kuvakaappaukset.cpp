@@ -250,6 +250,56 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     return ok ? 0 : 1;
 }
 
+namespace {
+// The draws a day would take before its events, found by playing the day on a copy of the farm and
+// the generator and then putting both back.
+std::vector<double> DrawsBeforeTheEvents(Peli& peli) {
+    const Muuttujat farm = peli.m;
+    const Näkymä view = peli.näkymä;
+    const Arvonta draws = peli.arvonta;
+    std::vector<double> before;
+    bool reached = false;
+    peli.arvonta.seuranta = [&](double r, const std::source_location& where) {
+        if (std::string_view(where.file_name()).find("events/") != std::string_view::npos) reached = true;
+        if (!reached) before.push_back(r);
+    };
+    tanhua::SeuraavaPäivä(peli);
+    peli.m = farm;
+    peli.näkymä = view;
+    peli.arvonta = draws;
+    return before;
+}
+
+// Presses of "Seuraava päivä" on which a barn fire opens the news window with its picture.
+void MittaaSattumat(Näyttämö& n) {
+    Peli& peli = n.peli;
+    std::vector<double> ajat;
+    QElapsedTimer kello;
+    int paloja = 0;
+    while (ajat.size() < 100) {
+        if (peli.näkymä.RaporttiAuki) n.ikkuna.raportti()->Command1()->click();
+        if (peli.m.Päivä < 2 || peli.m.Päivä > 28) {
+            n.ikkuna.SeuraavaPäivä();
+            continue;
+        }
+        for (double r : DrawsBeforeTheEvents(peli)) peli.arvonta.Jonoon(r);
+        // No wage talks, the day's draw, number 20, the barn, its picture, loss and claim.
+        for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
+        kello.start();
+        n.ikkuna.SeuraavaPäivä();
+        n.ikkuna.repaint();
+        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+        if (n.ikkuna.uutiset()->isVisible() && peli.näkymä.IkkunaKuva == "Kuvat/sattumat/tulipalo2.jpg") ++paloja;
+        peli.arvonta.TyhjennäJono();
+        Aseta(peli.m.Koko_Navetta, 3000);
+    }
+    std::sort(ajat.begin(), ajat.end());
+    std::printf("Seuraava päivä with a barn fire in the news window, %zu presses (%d fires shown):\n", ajat.size(), paloja);
+    std::printf("  median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", ajat[ajat.size() / 2],
+                ajat[ajat.size() * 95 / 100], ajat.back());
+}
+}  // namespace
+
 int MittaaPäivä(const Kansiot& kansiot) {
     Näyttämö n(kansiot);
     n.AloitaTila("Mittari");
@@ -287,6 +337,7 @@ int MittaaPäivä(const Kansiot& kansiot) {
     std::printf("Seuraava päivä with repaint, 360 presses on a farm of 1000 adult animals (%.0f at the end):\n", Navettakuorma(m));
     std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
                 ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
+    MittaaSattumat(n);
     return 0;
 }
 
