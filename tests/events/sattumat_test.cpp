@@ -98,7 +98,7 @@ TEST(Events, TheRealGeneratorTriesOneDayIn29AndSpreadsTheNumbersEvenly) {
 // A farm the caller calls on: every gate one above its bound.
 struct Soitto : Sattuma {
     Soitto() {
-        m.Raha = 20000;
+        m.Raha = 20010;
         m.Koko_Navetta = 16;
         m.Koko_Siilo = 201;
         m.Koko_Varasto = 201;
@@ -118,21 +118,21 @@ TEST(ProtectionMoney, StrictGates) {
 TEST(ProtectionMoney, TheAnswerDecides) {
     const std::string UHKAUS = "Maksa suojeluraha, niin navettasi ei syty niin herkästi tuleen";
     const std::string ALAMAAILMA = "IKKUNA|Kuvat/sattumat/alamaailma.jpg|" + UHKAUS;
-    // The sum is Round(2000 x 0.25) + 500; the answer's click takes the draw after it.
-    const std::string KYSYMYS = "VIESTI|1|" + UHKAUS + "\\nMaksatko  1000 ?|";
+    // The sum is Round(2001 x 0.5) + 500, the tie going to even; the answer's click takes the draw after it.
+    const std::string KYSYMYS = "VIESTI|1|" + UHKAUS + "\\nMaksatko  1500 ?|";
     struct Tapaus { std::string vastaus; std::initializer_list<double> arvot; std::optional<SattumanTulos> tulos; float raha; };
     for (const Tapaus& c : {
-             Tapaus{"Kyllä", {A(4, 6), 0.25, 0.1, A(1, 5)},
-                    T("Maksoit suojelurahaa  1000", "alamaailma.jpg", "Loistavaa. Voit nukkua yösi jälleen turvallisesti."),
-                    19000},
-             Tapaus{"Ei", {A(4, 6), 0.25, 0.1, A(1, 3), A(4, 5)},
-                    T("Kieltäydyit suojelurahasta.", "alamaailma.jpg", "Selvä. Nahkurin orsilla tavataan!"), 20000},
+             Tapaus{"Kyllä", {A(4, 6), 0.5, 0.1, A(1, 5)},
+                    T("Maksoit suojelurahaa  1500", "alamaailma.jpg", "Loistavaa. Voit nukkua yösi jälleen turvallisesti."),
+                    18510},
+             Tapaus{"Ei", {A(4, 6), 0.5, 0.1, A(1, 3), A(4, 5)},
+                    T("Kieltäydyit suojelurahasta.", "alamaailma.jpg", "Selvä. Nahkurin orsilla tavataan!"), 20010},
              // One refusal in three goes on at the fire: the barn of 16 loses D(4) + 1 = 3 places.
-             Tapaus{"Ei", {A(4, 6), 0.25, 0.1, A(0, 3), A(0, 3), 0.2, 0.5, 0},
+             Tapaus{"Ei", {A(4, 6), 0.5, 0.1, A(0, 3), A(0, 3), 0.2, 0.5, 0},
                     T("Sinulla oli syttynyt tulipalo navetassasi!", "tulipalo.jpg",
                       "Navetassasi oli ollut tulipalo, jonka palomiehet kuitenkin saivat sammutettua.", "Tuli"),
-                    20000},
-             Tapaus{"vastattu", {A(4, 6), 0.25, 0.1}, std::nullopt, 20000},
+                    20010},
+             Tapaus{"vastattu", {A(4, 6), 0.5, 0.1}, std::nullopt, 20010},
          }) {
         Soitto t;
         t.kanavat.vastaukset.push_back(c.vastaus);

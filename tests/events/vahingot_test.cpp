@@ -252,15 +252,15 @@ TEST(Escape, GateFineAndLostAnimals) {
         t.m.Vuodenaika = "Kesä";
         EXPECT_FALSE(t.Pelaa(55, {0.6})) << "without the herder D(2) must be 0";
     }
-    {  // With the herder D(6) = 0; P = Round(100 x 0.25) is paid.
+    {  // With the herder D(6) = 0; P = Round(101 x 0.5) = 50, the tie to even, is paid.
         Sattuma t;
         t.m.Laidun = 1;
         t.m.Tarv[Paimenpoika] = true;
-        t.m.Raha = 1000;
-        EXPECT_EQ(t.Pelaa(55, {0.1, 0.25, A(0, 4), A(1, 3)}),
+        t.m.Raha = 1010;
+        EXPECT_EQ(t.Pelaa(55, {0.1, 0.5, A(0, 4), A(1, 3)}),
                   T("Eläimiä karkasi laitumeltasi!", "pako.jpg",
-                    "Osa eläimistäsi oli karannut laitumelta.Jouduit maksamaan sakkoja huolimattomuudestasi  25"));
-        EXPECT_EQ(t.m.Raha, 975);
+                    "Osa eläimistäsi oli karannut laitumelta.Jouduit maksamaan sakkoja huolimattomuudestasi  50"));
+        EXPECT_EQ(t.m.Raha, 960);
     }
     // Lost animals: P is drawn all the same; only adults above 5 run, foxes never.
     Sattuma t;
