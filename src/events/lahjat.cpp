@@ -10,7 +10,7 @@ Tulos Pilaantuminen(Peli& peli) {
     Muuttujat& m = peli.m;
     // Certain below hygiene 20, else one chance in Hygienia \ 10.
     if (peli.arvonta.D(JakoKok(m.Hygienia, 10)) + 1 >= 2) return std::nullopt;
-    const PilaantumisRivi& rivi = PILAANTUMINEN[static_cast<std::size_t>(peli.arvonta.D(9))];
+    const PilaantumisRivi& rivi = PILAANTUMINEN[Rivi(peli, 9)];
     Single& varasto = m.Var[rivi.tuote];
     if (!(varasto > 0)) return std::nullopt;  // nothing there to spoil: nothing told
     Aseta(varasto, 0);
@@ -54,7 +54,7 @@ Tulos Lahja(Peli& peli, int numero, const Laskurit& laskurit) {
     if (!(static_cast<double>(m.Tili) + m.Raha < 100000)) return std::nullopt;
     std::string_view kuva = peli.arvonta.D(2) == 0 ? sattumakuva::Suku : sattumakuva::Suku2;
     if (numero == 10) kuva = sattumakuva::Metsästäjä;
-    const std::string_view antaja = ANTAJAT[static_cast<std::size_t>(peli.arvonta.D(12))];
+    const std::string_view antaja = ANTAJAT[Rivi(peli, 12)];
     if (!AnnaLahja(peli, numero, laskurit)) return std::nullopt;
     const std::string teksti = std::string(antaja) + std::string(LAHJATEKSTIT[numero - ENSIMMÄINEN_LAHJA]);
     return Kertomus(teksti, kuva, teksti);

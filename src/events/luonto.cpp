@@ -31,8 +31,8 @@ Tulos Tauti(Peli& peli, int numero) {
 
 Tulos Metsästäjä(Peli& peli) {
     Muuttujat& m = peli.m;
-    const std::string_view kuvaus = METSÄSTÄJÄT[static_cast<std::size_t>(peli.arvonta.D(5))];
-    const KohdeRivi& kohde = METSÄSTÄJÄN_KOHTEET[static_cast<std::size_t>(peli.arvonta.D(2))];
+    const std::string_view kuvaus = METSÄSTÄJÄT[Rivi(peli, 5)];
+    const KohdeRivi& kohde = METSÄSTÄJÄN_KOHTEET[Rivi(peli, 2)];
     Long& laskuri = m.El[kohde.laji][Naaras];
     if (!(laskuri > 0)) return std::nullopt;
     Lisää(laskuri, -(static_cast<double>(peli.arvonta.D(JakoKok(laskuri, 5))) + 1));
@@ -70,7 +70,7 @@ Tulos Myrsky(Peli& peli) {
         Lisää(m.Raha, T);
         loppu = std::string(MYRSKY_KORVAUS) + Str(static_cast<long long>(T));
     }
-    const std::string teksti = std::string(MYRSKYT[static_cast<std::size_t>(peli.arvonta.D(5))]) + loppu;
+    const std::string teksti = std::string(MYRSKYT[Rivi(peli, 5)]) + loppu;
     // What the wind leaves: feed beyond the smaller silo, and half the crops and honey.
     if (m.Var[Rehu] > m.Koko_Siilo) Aseta(m.Var[Rehu], JakoKok(m.Koko_Siilo, 2));
     for (Tuote t : {Marja, Vihannes, Hunaja, Vilja}) Puolita(m.Var[t]);
@@ -84,13 +84,13 @@ Tulos Karkaaminen(Peli& peli) {
     if (peli.arvonta.D(m.Tarv[Paimenpoika] ? 6 : 2) != 0) return std::nullopt;
     // P is drawn whatever the outcome.
     const Single P = CSng(Round((m.Raha / 10.0) * peli.arvonta.r()));
-    const auto tulos = static_cast<std::size_t>(peli.arvonta.D(4));
+    const auto tulos = Rivi(peli, 4);
     std::string loppu(PAON_LOPUT[tulos]);
     if (tulos < PAKO_MAKSETAAN) {
         Lisää(m.Raha, -static_cast<double>(P));
         loppu += Str(P);
     }
-    const std::string teksti = std::string(PAKOTEKSTIT[static_cast<std::size_t>(peli.arvonta.D(3))]) + loppu;
+    const std::string teksti = std::string(PAKOTEKSTIT[Rivi(peli, 3)]) + loppu;
     if (tulos >= PAKO_MAKSETAAN) {
         for (const Karkulainen& k : KARKULAISET) {
             Long& laskuri = m.El[k.laji][k.luokka];

@@ -1,6 +1,7 @@
 // The families of events, one operation each; PelaaSattuma chooses among them by the number.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -26,6 +27,13 @@ Tulos Metsästäjä(Peli& peli);                                        // 52
 Tulos Myrsky(Peli& peli);                                            // 53
 Tulos Rikkoutuminen(Peli& peli);                                     // 54
 Tulos Karkaaminen(Peli& peli);                                       // 55
+
+// A row of a table of n rows drawn by D(n). A given draw a hair below 1 can round up to n; it
+// still picks the last row rather than reach past the table.
+inline std::size_t Rivi(Peli& peli, std::size_t n) {
+    const long long i = peli.arvonta.D(static_cast<double>(n));
+    return i < 0 ? 0 : std::min(static_cast<std::size_t>(i), n - 1);
+}
 
 // Whether a policy is in force: its switch holds 1.
 inline bool Vakuutettu(const Muuttujat& m, Vakuutus v) { return m.Pankki.Vakuutus[v] == 1; }

@@ -8,7 +8,7 @@ namespace tanhua::sattumat {
 
 Tulos Työtapaturma(Peli& peli) {
     Muuttujat& m = peli.m;
-    const std::string_view vamma = VAMMAT[static_cast<std::size_t>(peli.arvonta.D(9))];
+    const std::string_view vamma = VAMMAT[Rivi(peli, 9)];
     const Single C = CSng(static_cast<double>(peli.arvonta.D(2000)) + 100);
     const bool vakuutettu = Vakuutettu(m, VakuutusTyö);
     const std::string loppu = vakuutettu ? std::string(TAPATURMA_VAKUUTETTU) : std::string(TAPATURMA_MAKSETTU) + Str(C);

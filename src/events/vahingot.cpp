@@ -51,7 +51,7 @@ Tulos Tulipalo(Peli& peli) {
     const int a = m.Tarv[Palohälytin] ? 1 : 0;
     // An alarm puts most fires out before they start.
     if (a == 1 && peli.arvonta.D(3) != 0) return std::nullopt;
-    const auto paikka = static_cast<Palopaikka>(peli.arvonta.D(3));
+    const auto paikka = static_cast<Palopaikka>(Rivi(peli, PALOPAIKAT.size()));
     auto kuva = peli.arvonta.D(2) == 0 ? sattumakuva::Tulipalo : sattumakuva::Tulipalo2;
     Single korvaus = 0;
     if (paikka == PaloNavetta) {
@@ -121,14 +121,14 @@ Tulos Rikkoutuminen(Peli& peli) {
     Muuttujat& m = peli.m;
     const auto& tavarat = peli.tarvikeruutu.Tavarat;
     if (tavarat.empty()) return std::nullopt;
-    const TarvikeRivinro rivi = tavarat[static_cast<std::size_t>(peli.arvonta.D(static_cast<double>(tavarat.size())))];
+    const TarvikeRivinro rivi = tavarat[Rivi(peli, tavarat.size())];
     std::string loppu;
     if (Vakuutettu(m, VakuutusTarvike)) {
         const double S = static_cast<double>(peli.arvonta.D(5000)) + 1000;
         Lisää(m.Raha, S);
         loppu = std::string(RIKKO_KORVAUS) + Str(CSng(S));
     }
-    const RikkoRivi& t = RIKKOUTUMISET[static_cast<std::size_t>(peli.arvonta.D(5))];
+    const RikkoRivi& t = RIKKOUTUMISET[Rivi(peli, 5)];
     const std::string teksti = std::string(t.ennen) + std::string(TarvikkeenNimi(rivi)) + std::string(t.jälkeen) + loppu;
     if (LähteeRikki(rivi)) PalautaKauppaan(peli, static_cast<Tarvike>(rivi));
     return Kertomus(RIKKO_RIVI, sattumakuva::Korjaaja, teksti);
