@@ -38,6 +38,12 @@ TEST(WindowEvents, AForcedEventShowsItsLinePictureAndText) {
     auto* lista = i.w->tanhua()->Lista();
     ASSERT_GT(lista->count(), 0);
     EXPECT_EQ(lista->item(lista->count() - 1)->text(), "Sinulla oli syttynyt tulipalo navetassasi!");
+    // A later day's draw blanks the picture without a tell; the window shown again follows.
+    Jonoon(i.peli, {0.5, 0, 20.5 / 60});  // number 21 is empty
+    tanhua::Sattumat(i.peli);
+    i.w->uutiset()->setVisible(true);
+    EXPECT_TRUE(i.w->uutiset()->kuva()->pixmap().isNull());
+    EXPECT_EQ(VertaaRuutua(i.peli, i.w->uutiset(), "ikkuna"), 3);
     // A long text wraps inside the window: the label's whole height fits.
     std::string pitkä;
     for (int k = 0; k < 80; ++k) pitkä += "Pitkä teksti ";
