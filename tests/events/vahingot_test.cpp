@@ -1,4 +1,4 @@
-// Activists, lawsuits, the bookkeeper, disease, the award, accidents, the hunter, storm, breakdown
+// Activists, lawsuits, the bookkeeper, disease, accidents, the hunter, storm, breakdown
 // and escape: gates on both sides, draws in order, effects and texts.
 #include "buildings/tarvikkeet.h"
 #include "tapahtumapeli.h"
@@ -86,7 +86,6 @@ TEST(Bookkeeper, EventsWithAndWithoutOne) {
              Tapaus{35, 1, 19999, {0.5},
                     "Olit maksanut liikaa veroja viime vuonna. Kirjanpitäjäsi korjasi virheen ja sait  1001 "
                     "veronpalautuksissa.", 2},
-             Tapaus{36, 1, 0, {}, "", 2},
              Tapaus{29, 0, 0, {}, "", 2},  // no baker to quit
              Tapaus{31, 0, 0, {0.5}, "Siivoojasi jätti lakimiehellesi  1000 korvaukset ja otti lopputilin työpaikastasi", 1},
              Tapaus{31, 1, 0, {}, "", 2},
@@ -128,18 +127,6 @@ TEST(Disease, HygieneGateTheAdultCounterAndAWholeClaim) {
                 "Kärpänen"));
     EXPECT_EQ(t.m.El[Nauta][Naaras], 8);
     EXPECT_EQ(t.m.Raha, 7000);
-}
-
-TEST(HygieneAward, StrictGates) {
-    for (Integer hygienia : {90, 91}) {
-        Sattuma t;
-        t.m.Raha = 49999;
-        t.m.Työ[Siivooja] = 1;
-        t.m.Hygienia = hygienia;
-        const auto tulos = t.Pelaa(43, hygienia == 91 ? std::initializer_list<double>{0.5} : std::initializer_list<double>{});
-        EXPECT_EQ(tulos.has_value(), hygienia == 91);
-        EXPECT_EQ(t.m.Raha, hygienia == 91 ? 52499 : 49999);
-    }
 }
 
 TEST(Accident, VictimRowsWinterAndTheCost) {

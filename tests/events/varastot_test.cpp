@@ -123,17 +123,5 @@ TEST(Fire, AlarmPlaceSizeGateCapsAndTheFeedRule) {
     }
 }
 
-TEST(Fire, TheInsuranceIsJoinedToTheText) {
-    Sattuma t;
-    t.m.Koko_Navetta = 1000;
-    t.Vakuuta(VakuutusPalo);
-    const auto tulos = t.Pelaa(20, {A(0, 3), 0.2, 0.5, 0.1});
-    ASSERT_TRUE(tulos);
-    EXPECT_EQ(tulos->teksti,
-              "Navetassasi oli ollut tulipalo, jonka palomiehet kuitenkin saivat sammutettua.vakuutus korvasi sinulle  31000");
-    EXPECT_EQ(tulos->kuva, "tulipalo.jpg");
-    EXPECT_EQ(t.m.Raha, 31000);
-}
-
 }  // namespace
 }  // namespace tanhua
