@@ -148,6 +148,17 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     ok &= Tallenna(&w, kansio, "02-Tanhua.png");
     Aseta(peli.m.Var[Maito], 0);
 
+    // The music player's panel out over the main screen with its playlist; then the logo's still.
+    w.AvaaSoitin();
+    ok &= Tallenna(&w, kansio, "18-Player.png");
+    w.PiilotaSoitin();
+    w.pohja()->setGeometry(w.rect());
+    w.pohja()->NäytäKuvat();
+    w.pohja()->show();
+    w.pohja()->raise();
+    ok &= Tallenna(&w, kansio, "19-Pohja-logo.png");
+    w.pohja()->hide();
+
     w.AvaaRuutu(w.eläimet());
     ValitseEläin(peli, KorttiNimellä("Lehmä"));
     OsoitinEläinruudulla(peli, EläinKohde::Kuva, KorttiNimellä("Lehmä"));
