@@ -17,6 +17,7 @@ const Ohjainluettelo& Ohjaimet() {
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
         HevostalliruudunOhjaimet(l);
+        SoittimenOhjaimet(l);
         return l;
     }();
     return luettelo;

@@ -17,6 +17,7 @@
 #include "arvonta.h"
 #include "kanavat.h"
 #include "pääruutu.h"
+#include "soitin.h"
 #include "state.h"
 
 namespace tanhua {
@@ -95,6 +96,7 @@ struct Peli {
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
     TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger
+    Soitin soitin;                    // the songs and the music player's panel
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

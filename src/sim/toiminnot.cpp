@@ -157,6 +157,7 @@ const Toimintoluettelo& Toiminnot() {
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
         TallinToiminnot(t);
+        SoittimenToiminnot(t);
         Siirtymät(t);
         return t;
     }();
