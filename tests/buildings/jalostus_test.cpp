@@ -6,6 +6,7 @@
 
 #include "buildings/rakennukset.h"
 #include "buildings/taulut/jalostus.h"
+#include "core/päivä.h"
 #include "tuki/testipeli.h"
 
 namespace tanhua {
@@ -234,6 +235,27 @@ TEST(FeedPlant, WishPercentageGrainTestLimitAndLoad) {
     EXPECT_EQ(t.m.Var[Vilja], 50);
     EXPECT_EQ(t.m.Var[Rehu], 12);
     EXPECT_EQ(t.m.RehuaTuotettu, 12);
+}
+
+TEST(FeedPlant, ACounterPastItsWidthIsFailureSixAndTheDayGoesOn) {
+    testi::Testipeli t;
+    t.Aloita();
+    t.m.Pelto = 10;
+    t.m.Rak[Rehuntuotanto] = 1;
+    t.m.Tuotanto[Rehuntuotanto] = 100;
+    t.m.Var[Vilja] = 1000;
+    t.m.Koko_Varasto = 10000;
+    t.m.RehuaTuotettu = 2147483647;
+    t.m.Sähkölasku = 0;
+    const Single rehua = t.m.Var[Rehu];
+    SeuraavaPäivä(t.peli);
+    int kuutosia = 0;
+    for (const std::string& e : t.kanavat.tapahtumat) kuutosia += e.rfind("VIKA|", 0) == 0 && e.find("|6|") != std::string::npos;
+    EXPECT_EQ(kuutosia, 1);
+    // The feed made before the failure stands, and the day reached its bills.
+    EXPECT_GT(t.m.Var[Rehu], rehua);
+    EXPECT_EQ(t.m.RehuaTuotettu, 2147483647);
+    EXPECT_GT(t.m.Sähkölasku, 0);
 }
 
 TEST(Chains, TheDayOrderTakesItsDrawsFeedSawYardsThenTheHouseChains) {
