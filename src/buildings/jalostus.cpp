@@ -152,7 +152,7 @@ void Marjat(Peli& peli) {
 
 // The feed plant needs no worker and works weekends too. Its wish comes from the herd's feed
 // estimate as the day's feeding took it; a mill on the farm cuts it to a fifth of the estimate.
-void Rehuntuotanto_(Peli& peli) {
+void Rehuntuotantolaitos(Peli& peli) {
     Muuttujat& m = peli.m;
     if (!(m.Pelto > 0 && m.Rak[Rehuntuotanto] > 0)) return;
     const double tarve = peli.päivänRehuTarve ? *peli.päivänRehuTarve : RehuTarve(m);
@@ -177,7 +177,7 @@ void Rehuntuotanto_(Peli& peli) {
 
 void Jalostus(Peli& peli, Rakennus rakennus) {
     switch (rakennus) {
-        case Rehuntuotanto: return Rehuntuotanto_(peli);
+        case Rehuntuotanto: return Rehuntuotantolaitos(peli);
         case Mehiläistarha: return Mehiläiset(peli);
         case Kasvihuone: return Vihannekset(peli);
         case Marjatarha: return Marjat(peli);

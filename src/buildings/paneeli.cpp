@@ -42,7 +42,7 @@ double Vesiarvio(const Peli& peli, Rakennus rakennus) {
     return Arvio(peli, rakennus, KULUTUSTAULU[rakennus].vesi, PaneelinKertoimet(peli).vf);
 }
 
-double Brutto_(const Muuttujat& m, const PaneeliRivi& p) {
+double Bruttotuotto(const Muuttujat& m, const PaneeliRivi& p) {
     switch (p.brutto) {
         case Brutto::Ratsastus: return m.RatsastusTulot;
         case Brutto::Pakkaamo: return m.PakkaamoTulot;
@@ -97,7 +97,7 @@ std::string RakennusPaneeli(const Peli& peli, Rakennus rakennus) {
     if (rakennus == Pakkaamo) return PakkaamonPaneeli(peli);
     const Muuttujat& m = peli.m;
     const PaneeliRivi& p = PANEELITAULU[rakennus];
-    const double brutto = Brutto_(m, p);
+    const double brutto = Bruttotuotto(m, p);
     std::string teksti = Rivi(p.otsikko) + Rivi(PANEELI_BRUTTO, Luku2(brutto), PANEELI_KK);
     double netto = brutto - Palkat(m, p.työ);
     if (p.sähkö) {

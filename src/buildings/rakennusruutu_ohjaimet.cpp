@@ -16,7 +16,7 @@ namespace {
 const RakennusRuutuTila& R(const Peli& p) { return p.rakennusruutu; }
 bool Valittu(const Peli& p) { return R(p).kohde >= 0; }
 // The chosen building, where a building (not a store) is chosen.
-Rakennus Valittu_(const Peli& p) { return static_cast<Rakennus>(R(p).kohde); }
+Rakennus ValittuRakennus(const Peli& p) { return static_cast<Rakennus>(R(p).kohde); }
 
 // The slider's place for the chosen building's percentage: a tenth of it, held to the scale.
 int Liukuarvo(const Peli& p) {
@@ -26,7 +26,7 @@ int Liukuarvo(const Peli& p) {
 // A product picture of the panel, shown with the panel where the building has one.
 Ohjain PaneelinKuva(const Peli& p, std::string (*kuva)(Rakennus)) {
     if (!R(p).paneeli) return Piilossa();
-    const std::string tiedosto = kuva(Valittu_(p));
+    const std::string tiedosto = kuva(ValittuRakennus(p));
     return tiedosto.empty() ? Piilossa() : Näkyvä(tiedosto);
 }
 
@@ -72,7 +72,9 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l) {
     yksi("taso", [](const Peli& p) { return JosNäkyy(!R(p).taso.empty(), [&] { return R(p).taso; }); });
     // From level 1 the building's production panel takes the selection text's place; the
     // work-order text still wins while an order runs.
-    yksi("info", [](const Peli& p) { return Näkyvä(R(p).paneeli ? RakennusPaneeli(p, Valittu_(p)) : R(p).info); });
+    yksi("info", [](const Peli& p) {
+        return Näkyvä(R(p).paneeli ? RakennusPaneeli(p, ValittuRakennus(p)) : R(p).info);
+    });
     // Beside the panel the raw stock's and the product's pictures.
     yksi("RaakaKuva", [](const Peli& p) { return PaneelinKuva(p, RaakaKuva); });
     yksi("TuoteKuva", [](const Peli& p) { return PaneelinKuva(p, TuoteKuva); });

@@ -51,7 +51,7 @@ inline constexpr std::array PANEELITAULU{
                 .raakaKuva = "liha.jpg", .tuoteKuva = "makkara.jpg"},  // 6 Teurastamo
     PaneeliRivi{.otsikko = "Rehuntuotantolaitos: ", .brutto = Brutto::Rehu, .tulot = {}, .tuloja = 0,
                 .työ = Varastotyöntekijä, .sähkö = true, .vesi = true, .talvellaNetto = true,
-                .raakaKuva = "vilja.jpg", .tuoteKuva = "rehu.jpg"},  // 7 Rehuntuotanto, a panel of its own
+                .raakaKuva = "vilja.jpg", .tuoteKuva = "rehu.jpg"},  // 7 Rehuntuotanto: a panel of its own, no worker
     PaneeliRivi{.otsikko = "Hevostallin tämän kk:n tuotto: ", .brutto = Brutto::Ratsastus, .tulot = {}, .tuloja = 0,
                 .työ = Tallimestari, .sähkö = true, .vesi = true, .talvellaNetto = true,
                 .raakaKuva = "", .tuoteKuva = ""},  // 8 Hevostalli
