@@ -97,12 +97,13 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     g->addWidget(nimi_, 0, 0, 1, 2);
     g->addWidget(korttikuva_, 0, 2, 3, 1, Qt::AlignRight | Qt::AlignTop);
     g->addWidget(taso_, 1, 0, 1, 2);
-    g->addWidget(info_, 3, 0, 1, 2);
-    auto* kuvat = new QVBoxLayout;
-    kuvat->addWidget(raaka_, 0, Qt::AlignCenter);
-    kuvat->addWidget(tuote_, 0, Qt::AlignCenter);
+    // The panel's raw stock and product sit under the level, right above the panel's lines.
+    auto* kuvat = new QHBoxLayout;
+    kuvat->addWidget(raaka_);
+    kuvat->addWidget(tuote_);
     kuvat->addStretch();
-    g->addLayout(kuvat, 3, 2);
+    g->addLayout(kuvat, 2, 0, 1, 2);
+    g->addWidget(info_, 3, 0, 1, 3);
     auto* liuku = new QHBoxLayout;
     liuku->addWidget(tuotanto_, 1);
     liuku->addWidget(prosentti_);
@@ -188,8 +189,8 @@ void Rakennukset::Päivitä() {
     Näytä(nimi_, Lue(peli_, "Kohde"));
     Näytä(taso_, Lue(peli_, "taso"));
     Näytä(info_, Lue(peli_, "info"));
-    NäytäKuva(peli_, raaka_, "Kuvat/tuotteet/", Lue(peli_, "RaakaKuva"), 44);
-    NäytäKuva(peli_, tuote_, "Kuvat/tuotteet/", Lue(peli_, "TuoteKuva"), 44);
+    NäytäKuva(peli_, raaka_, "Kuvat/tuotteet/", Lue(peli_, "RaakaKuva"), 36);
+    NäytäKuva(peli_, tuote_, "Kuvat/tuotteet/", Lue(peli_, "TuoteKuva"), 36);
     const Ohjain tuotanto = Lue(peli_, "Rakennus_Tuotanto");
     if (tuotanto.näkyvissä) {
         const QSignalBlocker esto(tuotanto_);
