@@ -20,12 +20,18 @@ TEST(ProductionPanels, ADairysPanelAndSliderAndTheYardsInWinter) {
     Ikkuna i;
     i.Aloita();
     Muuttujat& m = i.peli.m;
-    m.Rak[Meijeri] = 1;
     m.Rak[Kasvihuone] = 1;
-    m.Tuotanto[Meijeri] = 100;
     m.Tulo[Juusto] = 1234;
     QTest::mouseClick(i.w->tanhua()->Command2(), Qt::LeftButton);
     Rakennukset* r = i.w->rakennukset();
+    // An unbuilt dairy chosen starts at full output; it has no panel or slider yet.
+    m.Tuotanto[Meijeri] = 0;
+    QTest::mouseClick(r->Kuva(Meijeri), Qt::LeftButton);
+    EXPECT_EQ(m.Tuotanto[Meijeri], 100);
+    EXPECT_FALSE(r->Rakennus_Tuotanto()->isVisible());
+    EXPECT_FALSE(r->findChild<QLabel*>("RaakaKuva")->isVisible());
+
+    m.Rak[Meijeri] = 1;
     QTest::mouseClick(r->Kuva(Meijeri), Qt::LeftButton);
     VertaaRuutua(i.peli, r, "Rakennukset");
     auto* info = r->findChild<QLabel*>("info");
@@ -41,12 +47,6 @@ TEST(ProductionPanels, ADairysPanelAndSliderAndTheYardsInWinter) {
     EXPECT_EQ(m.Tuotanto[Meijeri], 90);
     EXPECT_EQ(r->Prosentti()->text(), "90 %");
     VertaaRuutua(i.peli, r, "Rakennukset");
-
-    // An unbuilt sewing room chosen starts at full output; it has no panel or slider yet.
-    m.Tuotanto[Ompelimo] = 0;
-    QTest::mouseClick(r->Kuva(Ompelimo), Qt::LeftButton);
-    EXPECT_EQ(m.Tuotanto[Ompelimo], 100);
-    EXPECT_FALSE(r->Rakennus_Tuotanto()->isVisible());
 
     // The greenhouse has a panel but no slider, and in winter no net line.
     m.Vuodenaika = "Talvi";
