@@ -140,6 +140,7 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        SoittimenToiminnot(t);
         Siirtymät(t);
         return t;
     }();
