@@ -46,9 +46,10 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     nimi_ = Teksti("", 16, kortti);
     korttikuva_ = new QLabel(kortti);
     taso_ = Teksti("", 12, kortti);
-    info_ = Teksti("", 10, kortti, false);
+    info_ = Teksti("", 9, kortti, false);
     info_->setWordWrap(true);
-    info_->setMinimumHeight(90);
+    // Room for the feed plant's seven lines, the longest panel.
+    info_->setMinimumHeight(112);
     nimi_->setObjectName("Kohde");
     taso_->setObjectName("taso");
     info_->setObjectName("info");
@@ -94,15 +95,16 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
         });
     });
     auto* g = new QGridLayout(kortti);
+    g->setVerticalSpacing(4);  // room for a production panel's lines at 800 x 600
     g->addWidget(nimi_, 0, 0, 1, 2);
     g->addWidget(korttikuva_, 0, 2, 3, 1, Qt::AlignRight | Qt::AlignTop);
-    g->addWidget(taso_, 1, 0, 1, 2);
-    // The panel's raw stock and product sit under the level, right above the panel's lines.
+    g->addWidget(taso_, 1, 0);
+    // The panel's raw stock and product sit beside the level, right above the panel's lines.
     auto* kuvat = new QHBoxLayout;
     kuvat->addWidget(raaka_);
     kuvat->addWidget(tuote_);
     kuvat->addStretch();
-    g->addLayout(kuvat, 2, 0, 1, 2);
+    g->addLayout(kuvat, 1, 1, 2, 1);
     g->addWidget(info_, 3, 0, 1, 3);
     auto* liuku = new QHBoxLayout;
     liuku->addWidget(tuotanto_, 1);
@@ -184,7 +186,7 @@ void Rakennukset::Päivitä() {
     Näytä(siiloz_, Lue(peli_, "siiloz"));
     Näytä(varastoz_, Lue(peli_, "varastoz"));
     const RakennusRuutuTila& t = peli_.rakennusruutu;
-    korttikuva_->setPixmap(t.kohde >= 0 ? KuvaJosOn(peli_, Kuvatiedosto(peli_, t.kohde)).scaled(128, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+    korttikuva_->setPixmap(t.kohde >= 0 ? KuvaJosOn(peli_, Kuvatiedosto(peli_, t.kohde)).scaled(112, 84, Qt::KeepAspectRatio, Qt::SmoothTransformation)
                                         : QPixmap());
     Näytä(nimi_, Lue(peli_, "Kohde"));
     Näytä(taso_, Lue(peli_, "taso"));
