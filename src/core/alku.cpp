@@ -217,6 +217,7 @@ void NollaaRuudut(Peli& peli) {
     peli.pankkiruutu = PankkiRuutuTila{};
     peli.tarvikeruutu = TarvikeRuutuTila{};
     peli.tilanneruutu = TilanneRuutuTila{};
+    peli.sopimusruutu = SopimusRuutuTila{};
     peli.käynnissä = false;
 }
 

@@ -16,6 +16,7 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        SopimusruudunOhjaimet(l);
         return l;
     }();
     return luettelo;

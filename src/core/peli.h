@@ -9,6 +9,7 @@
 #include "../animals/eläinruutu.h"
 #include "../buildings/rakennusruutu.h"
 #include "../buildings/tarvikeruutu.h"
+#include "../contracts/sopimusruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
 #include "../storage/tallennus.h"
@@ -55,6 +56,7 @@ struct Näkymä {
     std::string MsgTeksti, MsgVastaus;
     Byte MsgTyyli = 0;
     std::vector<std::string> Sopimuksia;  // contract offers waiting on the phone
+    bool Puhelin = false;                // the phone rings: an offer came in since the contracts were last opened
     bool PääruutuNäkyvissä = true;       // false while a sub-screen is open
     bool Command5Käytössä = true, Command9Käytössä = true;  // locked by stars
     std::string Ohje;                    // the hint line
@@ -93,6 +95,7 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    SopimusRuutuTila sopimusruutu;    // the contracts screen's call, sheets and choice
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

@@ -53,7 +53,8 @@ struct Ruutu {
 };
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
-                               {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"}};
+                               {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
+                               {"Sopimukset", "Tanhua.Command10"}};
 
 struct Poistuminen {
     const char* toiminto;
@@ -67,6 +68,8 @@ const Poistuminen POISTUMISET[] = {
     {"Työvoima.Takaisin", Aina},
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
+    // A call open on the contracts screen keeps the player there.
+    {"Sopimukset.Sulje", [](const Peli& p) { return !p.sopimusruutu.Puhelussa; }},
 };
 
 void Siirtymät(Toimintoluettelo& t) {
@@ -154,6 +157,7 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        SopimustenToiminnot(t);
         Siirtymät(t);
         return t;
     }();

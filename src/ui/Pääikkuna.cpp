@@ -8,6 +8,7 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Sopimukset.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -39,6 +40,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
                                                           rakennukset_, pankki_, tarvikkeet_})
         pino_->addWidget(ruutu);
+    // The contracts screen, opened by its button or the ringing phone.
+    sopimukset_ = new Sopimukset(peli_, *this, pino_);
+    pino_->addWidget(sopimukset_);
+    tanhua_->AvaaSopimukset = [this] { AvaaRuutu(sopimukset_); };
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -132,6 +137,8 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == sopimukset_) {
+        sopimukset_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -151,6 +158,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == sopimukset_) sopimukset_->Avaa();
         });
     });
     pino_->setCurrentWidget(ruutu);
@@ -199,7 +207,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_;
+           ruutu == tarvikkeet_ || ruutu == sopimukset_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

@@ -23,6 +23,7 @@ class Työvoima;
 class Rakennukset;
 class Pankki;
 class Tarvikkeet;
+class Sopimukset;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -58,6 +59,7 @@ public:
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
+    Sopimukset* sopimukset() const { return sopimukset_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -87,6 +89,7 @@ private:
     Rakennukset* rakennukset_;
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
+    Sopimukset* sopimukset_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

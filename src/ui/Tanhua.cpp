@@ -168,12 +168,29 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
     connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
 
+    // The contracts: their button, and the phone on the top row while a request waits.
+    command10_ = new QPushButton("Sopimukset", this);
+    command10_->setObjectName("Command10");
+    Teksturoi(peli_, command10_, "nappi.jpg", 12, 14);
+    command10_->setMinimumSize(150, 40);
+    Ohje("Command10", command10_);
+    command10_->installEventFilter(this);
+    connect(command10_, &QPushButton::clicked, this, [this] { if (AvaaSopimukset) AvaaSopimukset(); });
+    puhelin_ = new QLabel(this);
+    puhelin_->setObjectName("Puhelin");
+    puhelin_->setFixedSize(72, 72);
+    puhelin_->setAlignment(Qt::AlignCenter);
+    puhelin_->setCursor(Qt::PointingHandCursor);
+    puhelin_->hide();
+    Ohje("Puhelin", puhelin_);
+
     // Layout: information left, gauges right, list in the middle, buttons along the bottom.
     auto* ylä = new QHBoxLayout;
     ylä->addWidget(tiedot, 0, Qt::AlignTop);
     ylä->addStretch();
     ylä->addWidget(tähtirivi, 0, Qt::AlignTop);
     ylä->addStretch();
+    ylä->addWidget(puhelin_, 0, Qt::AlignTop);
     ylä->addWidget(mittarit, 0, Qt::AlignTop);
     auto* keski = new QHBoxLayout;
     keski->addStretch();
@@ -186,6 +203,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->setColumnStretch(3, 1);
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
+    ala->addWidget(command10_, 2, 0);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -205,6 +223,17 @@ bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
         if (kontrolli.isValid()) {
             peli_.näkymä.Ohje = Ohjeteksti(kontrolli.toString().toStdString());
             ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
+        }
+    }
+    // The phone grows a tenth under the pointer and opens the contracts when clicked.
+    if (kohde == puhelin_) {
+        if (tapahtuma->type() == QEvent::Enter || tapahtuma->type() == QEvent::Leave) {
+            puhelinIso_ = tapahtuma->type() == QEvent::Enter;
+            NäytäPuhelin();
+        }
+        if (tapahtuma->type() == QEvent::MouseButtonPress) {
+            if (AvaaSopimukset) AvaaSopimukset();
+            return true;
         }
     }
     if (tapahtuma->type() == QEvent::MouseButtonPress && kohde->property("tähti").isValid()) {
@@ -269,6 +298,15 @@ void Tanhua::Päivitä() {
     lista_->setVisible(lue("Lista").näkyvissä);
     if (lista_->count() > 0) lista_->setCurrentRow(lista_->count() - 1);
     Näytä(ohje_, lue("Ohje"));
+    Näytä(command10_, lue("Command10"));
+    NäytäPuhelin();
+}
+
+void Tanhua::NäytäPuhelin() {
+    const int koko = puhelinIso_ ? 70 : 64;  // 64 pixels, a tenth more under the pointer
+    const Ohjain o = LueRuudulta(peli_, "Tanhua", "Puhelin");
+    NäytäKuva(peli_, puhelin_, "Kuvat/", o, koko);
+    puhelin_->setEnabled(o.käytössä);
 }
 
 }  // namespace tanhua::ui

@@ -53,6 +53,10 @@ public:
     QLabel* Rahaz() const { return rahaz_; }
     QListWidget* Lista() const { return lista_; }
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
+    // The contracts: the button and the phone that rings while an offer waits.
+    QPushButton* Command10() const { return command10_; }
+    QLabel* Puhelin() const { return puhelin_; }
+    std::function<void()> AvaaSopimukset;
 
     // What the frame does for the buttons of the main screen.
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
@@ -74,6 +78,10 @@ private:
     QListWidget* lista_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
     std::string tausta_;
+    QPushButton* command10_;
+    QLabel* puhelin_;
+    bool puhelinIso_ = false;  // grown while the pointer is over it
+    void NäytäPuhelin();
 };
 
 }  // namespace tanhua::ui
