@@ -19,10 +19,10 @@ Ohjain O(const Peli& peli, const QObject* w) {
     return LueRuudulta(peli, "Sopimukset", w->objectName().toStdString());
 }
 
-QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
+QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi, int koko = 11) {
     auto* n = new QPushButton(vanhempi);
     n->setObjectName(nimi);
-    Teksturoi(peli, n, "nappi2.jpg", 11, 12);
+    Teksturoi(peli, n, "nappi2.jpg", koko, koko + 1);
     n->setMinimumHeight(32);
     return n;
 }
@@ -44,9 +44,9 @@ Sopimukset::Sopimukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     auto* paneeli = new Tausta(this);
     paneeli->setObjectName("paneeli");
     paneeli->AsetaKuva(KuvaJosOn(peli_, "Kuvat/OhraPelto2.jpg"));
-    paneeli->setFixedWidth(180);
-    uudet_ = Nappi(peli_, "Command5", paneeli);
-    sopimukset_ = Nappi(peli_, "Command6", paneeli);
+    paneeli->setFixedWidth(200);
+    uudet_ = Nappi(peli_, "Command5", paneeli, 10);
+    sopimukset_ = Nappi(peli_, "Command6", paneeli, 10);
     connect(uudet_, &QPushButton::clicked, this, [this] { Toimi(UudetSopimukset); });
     connect(sopimukset_, &QPushButton::clicked, this, [this] { Toimi(NäytäSopimukset); });
     auto* p = new QVBoxLayout(paneeli);
@@ -100,8 +100,9 @@ QFrame* Sopimukset::Tarjouslappu() {
         infoa_[i]->setObjectName(QString("infoa%1").arg(i));
         infoa_[i]->setWordWrap(true);
         infoa_[i]->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        infoa_[i]->setStyleSheet(i == 0 ? "color: #24160a; font-size: 10pt;"
-                                        : "color: rgba(140, 110, 60, 110); font-size: 10pt; margin: 2px 0 0 2px;");
+        // Both take the same width, so the shadow breaks its lines where the text does.
+        infoa_[i]->setStyleSheet(i == 0 ? "color: #24160a; font-size: 10pt; margin: 0 1px 1px 0;"
+                                        : "color: rgba(150, 120, 70, 90); font-size: 10pt; margin: 1px 0 0 1px;");
         t->addWidget(infoa_[i], 0, 0);
     }
     hyväksy_ = Nappi(peli_, "Command3", p);
@@ -167,6 +168,7 @@ QFrame* Sopimukset::Sopimuslappu() {
     g->addWidget(peruttava_, 7, 1, 1, 2);
     g->addWidget(peru_, 7, 3, 1, 2);
     g->addWidget(suljeSopimukset_, 7, 5);
+    g->setRowStretch(8, 1);
     p->hide();
     return p;
 }

@@ -78,8 +78,8 @@ private:
     QListWidget* lista_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
     std::string tausta_;
-    QPushButton* command10_;
-    QLabel* puhelin_;
+    QPushButton* command10_ = nullptr;
+    QLabel* puhelin_ = nullptr;
     bool puhelinIso_ = false;  // grown while the pointer is over it
     void NäytäPuhelin();
 };
