@@ -16,6 +16,7 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        SoittimenOhjaimet(l);
         SopimusruudunOhjaimet(l);
         return l;
     }();

@@ -60,6 +60,7 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l);  // Rakennukset
 void TyövoimaruudunOhjaimet(Ohjainluettelo& l);  // Työvoima
 void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
+void SoittimenOhjaimet(Ohjainluettelo& l);       // Tanhua.PlayerLogo, Player, MidiFile, MidiValmis
 void SopimusruudunOhjaimet(Ohjainluettelo& l);   // Sopimukset
 
 // A control by its written name: "Tanhua.Sää", or a member of an array as "Tanhua.TP_Kuva(1)".

@@ -157,6 +157,7 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        SoittimenToiminnot(t);
         SopimustenToiminnot(t);
         Siirtymät(t);
         return t;

@@ -53,6 +53,8 @@ public:
     QLabel* Rahaz() const { return rahaz_; }
     QListWidget* Lista() const { return lista_; }
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
+    QLabel* PlayerLogo() const { return playerLogo_; }
+    class Player* player() const { return player_; }
     // The contracts: the button and the phone that rings while an offer waits.
     QPushButton* Command10() const { return command10_; }
     QLabel* Puhelin() const { return puhelin_; }
@@ -62,6 +64,7 @@ public:
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
+    std::function<void()> AvaaSoitin;     // a click on the music player's badge
 
 protected:
     void keyPressEvent(QKeyEvent* tapahtuma) override;
@@ -78,6 +81,8 @@ private:
     QListWidget* lista_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
     std::string tausta_;
+    QLabel* playerLogo_;
+    class Player* player_;
     QPushButton* command10_ = nullptr;
     QLabel* puhelin_ = nullptr;
     bool puhelinIso_ = false;  // grown while the pointer is over it
