@@ -224,6 +224,7 @@ void NollaaRuudut(Peli& peli) {
     peli.tilanneruutu = TilanneRuutuTila{};
     peli.talliruutu = TalliRuutuTila{};
     peli.soitin.Näkyvissä = false;
+    peli.sopimusruutu = SopimusRuutuTila{};
     peli.käynnissä = false;
 }
 

@@ -18,6 +18,7 @@ const Ohjainluettelo& Ohjaimet() {
         PankkiruudunOhjaimet(l);
         HevostalliruudunOhjaimet(l);
         SoittimenOhjaimet(l);
+        SopimusruudunOhjaimet(l);
         return l;
     }();
     return luettelo;

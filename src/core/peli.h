@@ -10,6 +10,7 @@
 #include "../buildings/rakennusruutu.h"
 #include "../buildings/talliruutu.h"
 #include "../buildings/tarvikeruutu.h"
+#include "../contracts/sopimusruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
 #include "../storage/tallennus.h"
@@ -57,6 +58,7 @@ struct Näkymä {
     std::string MsgTeksti, MsgVastaus;
     Byte MsgTyyli = 0;
     std::vector<std::string> Sopimuksia;  // contract offers waiting on the phone
+    bool Puhelin = false;                // the phone rings: an offer came in since the contracts were last opened
     bool PääruutuNäkyvissä = true;       // false while a sub-screen is open
     bool Command5Käytössä = true, Command9Käytössä = true;  // locked by stars
     std::string Ohje;                    // the hint line
@@ -97,6 +99,7 @@ struct Peli {
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
     TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger
     Soitin soitin;                    // the songs and the music player's panel
+    SopimusRuutuTila sopimusruutu;    // the contracts screen's call, sheets and choice
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

@@ -85,6 +85,15 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
             return Näkyvä(teksti, käytössä);
         });
     }
+
+    // The contracts: the button, and the phone that rings while an offer waits.
+    yksi("Command10", [](const Peli& p) { return Näkyvä("Sopimukset", p.näkymä.PääruutuKäytössä); });
+    yksi("Puhelin", [](const Peli& p) {
+        if (!p.näkymä.Puhelin) return Piilossa();
+        Ohjain o = Näkyvä("Puhelin.gif", p.näkymä.PääruutuKäytössä);
+        o.vihje = "Sinulle on jätetty soittopyyntö sopimuksesta";
+        return o;
+    });
 }
 
 }  // namespace tanhua

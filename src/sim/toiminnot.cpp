@@ -54,7 +54,8 @@ struct Ruutu {
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
                                {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
-                               {"Hevostalli", "Tanhua.Hepotalli"}};
+                               {"Hevostalli", "Tanhua.Hepotalli"},
+                               {"Sopimukset", "Tanhua.Command10"}};
 
 struct Poistuminen {
     const char* toiminto;
@@ -69,6 +70,8 @@ const Poistuminen POISTUMISET[] = {
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
     {"Hevostalli.Sulje", Aina},
+    // A call open on the contracts screen keeps the player there.
+    {"Sopimukset.Sulje", [](const Peli& p) { return !p.sopimusruutu.Puhelussa; }},
 };
 
 void Siirtymät(Toimintoluettelo& t) {
@@ -144,6 +147,7 @@ const Toimintoluettelo& Toiminnot() {
         TilanteenToiminnot(t);
         TallinToiminnot(t);
         SoittimenToiminnot(t);
+        SopimustenToiminnot(t);
         Siirtymät(t);
         return t;
     }();

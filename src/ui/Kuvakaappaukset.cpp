@@ -8,6 +8,8 @@
 #include "Tuotteet.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Sopimukset.h"
+#include "contracts/sopimukset.h"
 #include "Asetukset.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
@@ -277,6 +279,31 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.tarvikkeet()->Command1()->click();
     Aseta(peli.m.TähtiLukitus, true);
 
+    // The contracts: the phone ringing, a call with its terms, and the three slots taken.
+    peli.näkymä.Sopimuksia = {"Maito", "Muna"};
+    peli.näkymä.Puhelin = true;
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "23-Tanhua-Puhelin.png");
+    w.AvaaRuutu(w.sopimukset());
+    UudetSopimukset(peli);
+    ValitseTarjous(peli, 0);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "24-Sopimukset-Puhelu.png");
+    HylkääTarjous(peli);
+    const std::array<Sopimus, SOPIMUSPAIKKOJA> paikat{Sopimus{"Maito", 450, 2700, 3600, 17},
+                                                     Sopimus{"Muna", 120, 480, 640, 9},
+                                                     Sopimus{"Puu", 30, 1800, 2400, 12}};
+    peli.m.Sop = paikat;
+    SuljeTarjoukset(peli);
+    NäytäSopimukset(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "25-Sopimukset-Paikat.png");
+    w.sopimukset()->Command1()->click();
+    // The month end that follows has no contract notice to wait for.
+    peli.m.Sop = {};
+    peli.näkymä.Sopimuksia.clear();
+    peli.näkymä.Puhelin = false;
+
     while (!peli.näkymä.RaporttiAuki) w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "06-Raportti.png");
     w.raportti()->Command1()->click();
@@ -510,6 +537,10 @@ int MittaaPäivä(const Kansiot& kansiot) {
     AsetaAutomyynti(n.peli, Muna, true);
     AsetaAutomyynti(n.peli, Maito, true);
     AsetaAutomyynti(n.peli, Rehu, true);
+    // Three contracts running all year on the sheep's wool, which no sale takes.
+    // A stock of its own, so that no month breaks one and waits on its notice.
+    for (Sopimus& s : m.Sop) s = Sopimus{"Villa", 1, 10, 40, 17};
+    Aseta(m.Var[Villa], 100000);
     std::vector<double> ajat;
     QElapsedTimer kello;
     for (int päivä = 0; päivä < 360; ++päivä) {

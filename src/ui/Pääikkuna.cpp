@@ -11,6 +11,7 @@
 #include "Hevostalli.h"
 #include "Player.h"
 #include "core/musiikki.h"
+#include "Sopimukset.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -45,6 +46,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
                                                           rakennukset_, pankki_, tarvikkeet_, hevostalli_})
         pino_->addWidget(ruutu);
+    // The contracts screen, opened by its button or the ringing phone.
+    sopimukset_ = new Sopimukset(peli_, *this, pino_);
+    pino_->addWidget(sopimukset_);
+    tanhua_->AvaaSopimukset = [this] { AvaaRuutu(sopimukset_); };
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -193,6 +198,8 @@ void Pääikkuna::Päivitä() {
         tarvikkeet_->Päivitä();
     } else if (nyt == hevostalli_) {
         hevostalli_->Päivitä();
+    } else if (nyt == sopimukset_) {
+        sopimukset_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -213,6 +220,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
             if (ruutu == hevostalli_) hevostalli_->Avaa();
+            if (ruutu == sopimukset_) sopimukset_->Avaa();
         });
     });
     // The main form folds to its middle line and stays small; the screen opens from it; the main
@@ -288,7 +296,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_ || ruutu == hevostalli_;
+           ruutu == tarvikkeet_ || ruutu == hevostalli_ || ruutu == sopimukset_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

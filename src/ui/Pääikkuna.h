@@ -26,6 +26,7 @@ class Rakennukset;
 class Pankki;
 class Tarvikkeet;
 class Hevostalli;
+class Sopimukset;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -70,6 +71,7 @@ public:
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
     Hevostalli* hevostalli() const { return hevostalli_; }
+    Sopimukset* sopimukset() const { return sopimukset_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -102,6 +104,7 @@ private:
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
     Hevostalli* hevostalli_;
+    Sopimukset* sopimukset_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

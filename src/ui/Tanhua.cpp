@@ -183,6 +183,21 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     Ohje("Hepotalli", hepotalli_);
     hepotalli_->hide();
     connect(hepotalli_, &QPushButton::clicked, this, [this] { if (AvaaHevostalli) AvaaHevostalli(); });
+    // The contracts: their button, and the phone on the top row while a request waits.
+    command10_ = new QPushButton("Sopimukset", this);
+    command10_->setObjectName("Command10");
+    Teksturoi(peli_, command10_, "nappi.jpg", 12, 14);
+    command10_->setMinimumSize(150, 40);
+    Ohje("Command10", command10_);
+    command10_->installEventFilter(this);
+    connect(command10_, &QPushButton::clicked, this, [this] { if (AvaaSopimukset) AvaaSopimukset(); });
+    puhelin_ = new QLabel(this);
+    puhelin_->setObjectName("Puhelin");
+    puhelin_->setFixedSize(72, 72);
+    puhelin_->setAlignment(Qt::AlignCenter);
+    puhelin_->setCursor(Qt::PointingHandCursor);
+    puhelin_->hide();
+    Ohje("Puhelin", puhelin_);
 
     // Layout: information left, gauges right, list in the middle, buttons along the bottom.
     auto* ylä = new QHBoxLayout;
@@ -190,6 +205,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ylä->addStretch();
     ylä->addWidget(tähtirivi, 0, Qt::AlignTop);
     ylä->addStretch();
+    ylä->addWidget(puhelin_, 0, Qt::AlignTop);
     ylä->addWidget(mittarit, 0, Qt::AlignTop);
     auto* keski = new QHBoxLayout;
     keski->addStretch();
@@ -203,6 +219,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
     ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
+    ala->addWidget(command10_, 2, 0);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -235,6 +252,17 @@ bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
     if (tapahtuma->type() == QEvent::MouseButtonPress && kohde == playerLogo_) {
         if (AvaaSoitin && playerLogo_->isEnabled()) AvaaSoitin();
         return true;
+    }
+    // The phone grows a tenth under the pointer and opens the contracts when clicked.
+    if (kohde == puhelin_) {
+        if (tapahtuma->type() == QEvent::Enter || tapahtuma->type() == QEvent::Leave) {
+            puhelinIso_ = tapahtuma->type() == QEvent::Enter;
+            NäytäPuhelin();
+        }
+        if (tapahtuma->type() == QEvent::MouseButtonPress) {
+            if (AvaaSopimukset) AvaaSopimukset();
+            return true;
+        }
     }
     if (tapahtuma->type() == QEvent::MouseButtonPress && kohde->property("tähti").isValid()) {
         if (NäytäTähti) NäytäTähti(kohde->property("tähti").toInt());
@@ -303,6 +331,15 @@ void Tanhua::Päivitä() {
     NäytäKuva(peli_, playerLogo_, "Kuvat/", logo, 48);
     playerLogo_->setEnabled(logo.käytössä);
     player_->Päivitä();
+    Näytä(command10_, lue("Command10"));
+    NäytäPuhelin();
+}
+
+void Tanhua::NäytäPuhelin() {
+    const int koko = puhelinIso_ ? 70 : 64;  // 64 pixels, a tenth more under the pointer
+    const Ohjain o = LueRuudulta(peli_, "Tanhua", "Puhelin");
+    NäytäKuva(peli_, puhelin_, "Kuvat/", o, koko);
+    puhelin_->setEnabled(o.käytössä);
 }
 
 }  // namespace tanhua::ui
