@@ -217,6 +217,8 @@ void NollaaRuudut(Peli& peli) {
     peli.pankkiruutu = PankkiRuutuTila{};
     peli.tarvikeruutu = TarvikeRuutuTila{};
     peli.tilanneruutu = TilanneRuutuTila{};
+    peli.käyrätruutu = KäyrätRuutuTila{};
+    peli.raviruutu = RaviRuutuTila{};
     peli.käynnissä = false;
 }
 

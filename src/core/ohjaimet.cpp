@@ -16,6 +16,8 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        KäyrätruudunOhjaimet(l);
+        RaviruudunOhjaimet(l);
         return l;
     }();
     return luettelo;

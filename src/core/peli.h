@@ -11,6 +11,8 @@
 #include "../buildings/tarvikeruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
+#include "../racing/raviruutu.h"
+#include "../stats/käyrätruutu.h"
 #include "../storage/tallennus.h"
 #include "../workforce/työvoimaruutu.h"
 #include "arvonta.h"
@@ -93,6 +95,8 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    KäyrätRuutuTila käyrätruutu;      // the statistics screen's labels and plot
+    RaviRuutuTila raviruutu;          // the race-betting screen, fresh at each opening
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

@@ -82,6 +82,8 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
             return Näkyvä(teksti, käytössä);
         });
     }
+    // The statistics screen's button.
+    yksi("Stat", [](const Peli& p) { return Näkyvä("Statistiikka", p.näkymä.PääruutuKäytössä); });
 }
 
 }  // namespace tanhua

@@ -53,7 +53,8 @@ struct Ruutu {
 };
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
-                               {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"}};
+                               {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
+                               {"Käyrät", "Tanhua.Stat"}};
 
 struct Poistuminen {
     const char* toiminto;
@@ -67,6 +68,8 @@ const Poistuminen POISTUMISET[] = {
     {"Työvoima.Takaisin", Aina},
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
+    {"Käyrät.Sulje", Aina},
+    {"Käyrät.Command2", Aina},
 };
 
 void Siirtymät(Toimintoluettelo& t) {
@@ -154,6 +157,8 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        KäyrienToiminnot(t);
+        RavienToiminnot(t);
         Siirtymät(t);
         return t;
     }();
