@@ -48,8 +48,8 @@ void KäyrätruudunOhjaimet(Ohjainluettelo& l) {
     yksi("Command9", [](const Peli& p) { return Näkyvä("Tuotteiden Netto", Vapaa(p)); });
     yksi("Command10", [](const Peli& p) { return Näkyvä("Kuukauden vaihde", Vapaa(p)); });
 
-    // The six monthly lists, items joined by "|", each shown beside its button as a small preview;
-    // the net list is out of sight while its button is off.
+    // The six monthly lists, items joined by "|" without Str's blank, each shown beside its button as a
+    // small preview; the net list is out of sight while its button is off.
     for (std::size_t k = 0; k < KÄYRIÄ; ++k) {
         const KäyräRivi& rivi = KÄYRÄTAULU[k];
         const bool netto = k == KäyräNetto;
@@ -57,7 +57,7 @@ void KäyrätruudunOhjaimet(Ohjainluettelo& l) {
             if (netto && !R(p).Command5) return Piilossa();
             const std::vector<std::string>& lista = p.m.Käyrät.*rivi.lista;
             std::string t;
-            for (std::size_t i = 0; i < lista.size(); ++i) t += (i ? "|" : "") + lista[i];
+            for (std::size_t i = 0; i < lista.size(); ++i) t += (i ? "|" : "") + Suoraan(lista[i]);
             return Näkyvä(t);
         });
     }
