@@ -118,6 +118,12 @@ AsteikonTekstit Asteikkotekstit(Asteikko asteikko, double T) {
     return t;
 }
 
+std::vector<double> Esikatselu(const Muuttujat& m, Käyrä käyrä) {
+    std::vector<double> arvot;
+    for (const std::string& s : m.Käyrät.*KÄYRÄTAULU[käyrä].lista) arvot.push_back(Val(s));
+    return arvot;
+}
+
 Single TuotteenNetto(const Muuttujat& m, Tuote k) {
     double netto = m.EdTulo[k];
     switch (k) {

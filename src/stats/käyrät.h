@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "../core/laskenta.h"
 #include "../core/state.h"
@@ -42,6 +43,9 @@ struct AsteikonTekstit {
     std::string Maximi, Puoli, Minimi;
 };
 AsteikonTekstit Asteikkotekstit(Asteikko asteikko, double T);
+// The list's items as numbers for a small preview beside its button: an item that isn't a number
+// counts as 0 there (only drawing the curve reports it).
+std::vector<double> Esikatselu(const Muuttujat& m, Käyrä käyrä);
 // A product's net income of last month, as the net table shows it (a Single).
 Single TuotteenNetto(const Muuttujat& m, Tuote tuote);
 

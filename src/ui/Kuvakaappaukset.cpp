@@ -11,6 +11,10 @@
 #include "Asetukset.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
+#include "Käyrät.h"
+#include "Ravit.h"
+#include "racing/ravit.h"
+#include "stats/käyrät.h"
 #include "animals/kauppa.h"
 #include "buildings/rakentaminen.h"
 #include "buildings/tarvikkeet.h"
@@ -78,6 +82,51 @@ bool Tallenna(QWidget* w, const QDir& kansio, const char* nimi) {
     QApplication::processEvents();
     const bool ok = w->grab().save(kansio.filePath(nimi));
     std::printf("%s %s\n", ok ? "wrote" : "FAILED", kansio.filePath(nimi).toStdString().c_str());
+    return ok;
+}
+}  // namespace
+
+namespace {
+bool KäyrätJaRavit(Näyttämö& n, const QDir& kansio) {
+    Pääikkuna& w = n.ikkuna;
+    Peli& peli = n.peli;
+    bool ok = true;
+    // Cash and a fuller silo for the two years.
+    Aseta(peli.m.Koko_Siilo, 2000);
+    Aseta(peli.m.Var[Rehu], 2000);
+    Aseta(peli.m.Raha, peli.m.Raha + 40000);
+    while (peli.m.Vuosi < 1982 || peli.m.Kuukausi < 6) {
+        w.SeuraavaPäivä();
+        if (peli.näkymä.RaporttiAuki) w.raportti()->Command1()->click();
+        if (peli.näkymä.IkkunaNäkyvissä) w.uutiset()->Command1()->click();
+    }
+    w.AvaaRuutu(w.käyrät());
+    PiirräKäyrä(peli, KäyräRaha);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "18-Kayrat-Rahatila.png");
+    TuotteidenNetto(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "19-Kayrat-Taulu.png");
+    w.käyrät()->Command(2)->click();
+
+    w.AvaaRavit();
+    LyöVetoa(peli);
+    ValitseVetolaji(peli, vetolaji::Voittajaveto);
+    NäytäRivi(peli, 0);
+    ValitseKerroin(peli, 3);
+    for (int i = 0; i < 3; ++i) NostaPanosta(peli);
+    HyväksyKuponki(peli);
+    LyöVetoa(peli);
+    ValitseVetolaji(peli, vetolaji::Trio);
+    NäytäRivi(peli, 1);
+    for (int rivi : {2, 6, 0}) MerkitseHevonen(peli, rivi);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "20-Ravit.png");
+    // The same screens in the 800 x 600 design.
+    w.resize(800, 600);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "21-Ravit-800x600.png");
+    w.ravit()->Command(1)->click();
     return ok;
 }
 }  // namespace
@@ -210,6 +259,10 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     asetukset.resize(800, 760);
     asetukset.show();
     ok &= Tallenna(&asetukset, kansio, "17-Asetukset.png");
+    asetukset.hide();
+
+    // Two years of the farm in the curves, last month's net table, and a coupon at the races.
+    ok &= KäyrätJaRavit(n, kansio);
     return ok ? 0 : 1;
 }
 

@@ -8,6 +8,9 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Käyrät.h"
+#include "Ravit.h"
+#include "racing/ravit.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -39,6 +42,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
                                                           rakennukset_, pankki_, tarvikkeet_})
         pino_->addWidget(ruutu);
+    käyrät_ = new Käyrät(peli_, *this, pino_);
+    ravit_ = new Ravit(peli_, *this, pino_);
+    pino_->addWidget(käyrät_);
+    pino_->addWidget(ravit_);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -70,6 +77,15 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
+    tanhua_->AvaaKäyrät = [this] { AvaaRuutu(käyrät_); };
+    ravit_->Suljettu = [this] {
+        if (raviPaluu_) {
+            pino_->setCurrentWidget(raviPaluu_);
+            Päivitä();
+        } else {
+            PalaaPääruutuun();
+        }
+    };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -132,6 +148,10 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == käyrät_) {
+        käyrät_->Päivitä();
+    } else if (nyt == ravit_) {
+        ravit_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -151,11 +171,19 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == käyrät_) käyrät_->Avaa();
         });
     });
     pino_->setCurrentWidget(ruutu);
     Päivitä();
     AsetteleKyltti();
+}
+
+void Pääikkuna::AvaaRavit(QWidget* paluu) {
+    raviPaluu_ = paluu;
+    Toimi([this] { tanhua::AvaaRavit(peli_); });
+    pino_->setCurrentWidget(ravit_);
+    Päivitä();
 }
 
 void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
@@ -199,7 +227,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_;
+           ruutu == tarvikkeet_ || ruutu == käyrät_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

@@ -23,6 +23,8 @@ class Työvoima;
 class Rakennukset;
 class Pankki;
 class Tarvikkeet;
+class Käyrät;
+class Ravit;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -58,6 +60,11 @@ public:
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
+    Käyrät* käyrät() const { return käyrät_; }
+    Ravit* ravit() const { return ravit_; }
+    // The stable's "Osallistu raveihin": the notice, then the race screen fresh; closing it goes back
+    // to `paluu` (the stable), or to the main screen without one.
+    void AvaaRavit(QWidget* paluu = nullptr);
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -87,6 +94,9 @@ private:
     Rakennukset* rakennukset_;
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
+    Käyrät* käyrät_;
+    Ravit* ravit_;
+    QWidget* raviPaluu_ = nullptr;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

@@ -50,6 +50,7 @@ public:
     QPushButton* Command9() const { return command9_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
+    QPushButton* Stat() const { return stat_; }
     QLabel* Rahaz() const { return rahaz_; }
     QListWidget* Lista() const { return lista_; }
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
@@ -58,6 +59,7 @@ public:
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
+    std::function<void()> AvaaKäyrät;     // "Statistiikka"
 
 protected:
     void keyPressEvent(QKeyEvent* tapahtuma) override;
@@ -74,6 +76,7 @@ private:
     QListWidget* lista_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
     std::string tausta_;
+    QPushButton* stat_;
 };
 
 }  // namespace tanhua::ui
