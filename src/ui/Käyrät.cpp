@@ -28,13 +28,15 @@ constexpr std::array<Käyrä, KÄYRIÄ> JÄRJESTYS{KäyräRaha, KäyräLV, Käyr
 KäyräTaulu::KäyräTaulu(const Peli& peli, QWidget* vanhempi) : QWidget(vanhempi), peli_(peli) {
     setObjectName("Taulu");
     setMinimumSize(360, 240);
+    // The plot paints every pixel itself, so a new curve repaints only the plot, not the backdrop.
+    setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void KäyräTaulu::paintEvent(QPaintEvent*) {
     const KäyrätRuutuTila& r = peli_.käyrätruutu;
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    p.fillRect(rect(), QColor(255, 253, 246, 235));
+    p.fillRect(rect(), QColor(255, 253, 246));
     p.setPen(QPen(QColor(107, 74, 34), 2));
     p.drawRect(rect().adjusted(1, 1, -1, -1));
     if (!r.taulu.empty()) {

@@ -52,14 +52,16 @@ QPushButton* Rivinappi(const char* taulukko, int i, QWidget* vanhempi) {
 TulosLappu::TulosLappu(const Peli& peli, QWidget* vanhempi) : QWidget(vanhempi), peli_(peli) {
     setObjectName("Tulos");
     setMinimumSize(380, 330);
+    // The sheet paints every pixel itself, so a new sheet repaints only the sheet, not the backdrop.
+    setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void TulosLappu::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
+    p.fillRect(rect(), QColor(252, 248, 232));
     p.setPen(QPen(QColor(107, 74, 34), 2));
-    p.setBrush(QColor(252, 248, 232, 245));
-    p.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 8, 8);
+    p.drawRect(rect().adjusted(1, 1, -1, -1));
     QFont f = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     f.setPointSize(8);
     p.setFont(f);
