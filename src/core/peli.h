@@ -18,6 +18,7 @@
 #include "arvonta.h"
 #include "kanavat.h"
 #include "pääruutu.h"
+#include "soitin.h"
 #include "state.h"
 
 namespace tanhua {
@@ -97,6 +98,7 @@ struct Peli {
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
     KäyrätRuutuTila käyrätruutu;      // the statistics screen's labels and plot
     RaviRuutuTila raviruutu;          // the race-betting screen, fresh at each opening
+    Soitin soitin;                    // the songs and the music player's panel
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

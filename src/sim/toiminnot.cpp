@@ -159,6 +159,7 @@ const Toimintoluettelo& Toiminnot() {
         TilanteenToiminnot(t);
         KäyrienToiminnot(t);
         RavienToiminnot(t);
+        SoittimenToiminnot(t);
         Siirtymät(t);
         return t;
     }();

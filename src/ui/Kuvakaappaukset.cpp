@@ -22,6 +22,8 @@
 #include "workforce/työvoima.h"
 #include "core/kuukausi.h"
 #include "core/päivä.h"
+#include "core/viestit.h"
+#include "events/sattumat.h"
 #include "market/markkinat.h"
 #include "market/myynti.h"
 #include "storage/tiedostot.h"
@@ -30,6 +32,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QPainter>
 #include <QTemporaryDir>
 // std
 #include <algorithm>
@@ -85,6 +88,35 @@ bool Tallenna(QWidget* w, const QDir& kansio, const char* nimi) {
     std::printf("%s %s\n", ok ? "wrote" : "FAILED", kansio.filePath(nimi).toStdString().c_str());
     return ok;
 }
+bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
+    Pääikkuna& w = n.ikkuna;
+    Peli& peli = n.peli;
+    bool ok = true;
+    Aseta(peli.m.Koko_Navetta, std::max<Single>(peli.m.Koko_Navetta, 60));
+    // No wage talks, the day's draw, number 20; the barn, the second picture, its loss and claim.
+    for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
+    tanhua::Sattumat(peli);
+    ok &= Tallenna(&w, kansio, "17-Sattuma.png");
+    w.uutiset()->Command1()->click();
+
+    const std::string uhkaus = "Maksa suojeluraha, niin navettasi ei syty niin herkästi tuleen";
+    Kerro(peli, "Kuvat/sattumat/alamaailma.jpg", uhkaus);
+    w.message()->Valmistele(uhkaus + "\nMaksatko " + Str(1480.0f) + " ?", 1);
+    w.message()->show();
+    QApplication::processEvents();
+    // The box is a window of its own: it is drawn over the middle of the main window, as it opens.
+    QPixmap kuva = w.grab();
+    {
+        QPainter maalari(&kuva);
+        const QPixmap laatikko = w.message()->grab();
+        maalari.drawPixmap((w.width() - laatikko.width()) / 2, (w.height() - laatikko.height()) / 2, laatikko);
+    }
+    const bool tallennettu = kuva.save(kansio.filePath("18-Suojeluraha.png"));
+    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("18-Suojeluraha.png").toStdString().c_str());
+    w.message()->hide();
+    w.uutiset()->Command1()->click();
+    return ok && tallennettu;
+}
 }  // namespace
 
 namespace {
@@ -104,10 +136,10 @@ bool KäyrätJaRavit(Näyttämö& n, const QDir& kansio) {
     w.AvaaRuutu(w.käyrät());
     PiirräKäyrä(peli, KäyräRaha);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "18-Kayrat-Rahatila.png");
+    ok &= Tallenna(&w, kansio, "20-Kayrat-Rahatila.png");
     TuotteidenNetto(peli);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "19-Kayrat-Taulu.png");
+    ok &= Tallenna(&w, kansio, "21-Kayrat-Taulu.png");
     w.käyrät()->Command(2)->click();
 
     w.AvaaRavit();
@@ -122,11 +154,11 @@ bool KäyrätJaRavit(Näyttämö& n, const QDir& kansio) {
     NäytäRivi(peli, 1);
     for (int rivi : {2, 6, 0}) MerkitseHevonen(peli, rivi);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "20-Ravit.png");
+    ok &= Tallenna(&w, kansio, "22-Ravit.png");
     // The same screens in the 800 x 600 design.
     w.resize(800, 600);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "21-Ravit-800x600.png");
+    ok &= Tallenna(&w, kansio, "23-Ravit-800x600.png");
     w.ravit()->Command(1)->click();
     return ok;
 }
@@ -165,6 +197,17 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "02-Tanhua.png");
     Aseta(peli.m.Var[Maito], 0);
+
+    // The music player's panel out over the main screen with its playlist; then the logo's still.
+    w.AvaaSoitin();
+    ok &= Tallenna(&w, kansio, "18-Player.png");
+    w.PiilotaSoitin();
+    w.pohja()->setGeometry(w.rect());
+    w.pohja()->NäytäKuvat();
+    w.pohja()->show();
+    w.pohja()->raise();
+    ok &= Tallenna(&w, kansio, "19-Pohja-logo.png");
+    w.pohja()->hide();
 
     w.AvaaRuutu(w.eläimet());
     ValitseEläin(peli, KorttiNimellä("Lehmä"));
@@ -255,6 +298,11 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     vika.show();
     ok &= Tallenna(&vika, kansio, "12-VikaTila.png");
 
+    // The day's events: a barn fire with its line in the list, then the caller's demand with the
+    // question over it.
+    vika.hide();
+    ok &= KuvaaSattumat(n, kansio);
+
     // The settings tool beside the game, on the same data folder.
     AsetusIkkuna asetukset(peli);
     asetukset.resize(800, 760);
@@ -301,6 +349,54 @@ void MittaaKäyräJaKuponki(Näyttämö& n) {
                 peli.raviruutu.tulos[2].teksti.c_str(), arvonta, static_cast<double>(kello.nsecsElapsed()) / 1e6);
     w.ravit()->Command(1)->click();
 }
+
+// The draws a day would take before its events, found by playing the day on a copy of the farm and
+// the generator and then putting both back.
+std::vector<double> DrawsBeforeTheEvents(Peli& peli) {
+    const Muuttujat farm = peli.m;
+    const Näkymä view = peli.näkymä;
+    const Arvonta draws = peli.arvonta;
+    std::vector<double> before;
+    bool reached = false;
+    peli.arvonta.seuranta = [&](double r, const std::source_location& where) {
+        if (std::string_view(where.file_name()).find("events/") != std::string_view::npos) reached = true;
+        if (!reached) before.push_back(r);
+    };
+    tanhua::SeuraavaPäivä(peli);
+    peli.m = farm;
+    peli.näkymä = view;
+    peli.arvonta = draws;
+    return before;
+}
+
+// Presses of "Seuraava päivä" on which a barn fire opens the news window with its picture.
+void MittaaSattumat(Näyttämö& n) {
+    Peli& peli = n.peli;
+    std::vector<double> ajat;
+    QElapsedTimer kello;
+    int paloja = 0;
+    while (ajat.size() < 100) {
+        if (peli.näkymä.RaporttiAuki) n.ikkuna.raportti()->Command1()->click();
+        if (peli.m.Päivä < 2 || peli.m.Päivä > 28) {
+            n.ikkuna.SeuraavaPäivä();
+            continue;
+        }
+        for (double r : DrawsBeforeTheEvents(peli)) peli.arvonta.Jonoon(r);
+        // No wage talks, the day's draw, number 20, the barn, its picture, loss and claim.
+        for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
+        kello.start();
+        n.ikkuna.SeuraavaPäivä();
+        n.ikkuna.repaint();
+        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+        if (n.ikkuna.uutiset()->isVisible() && peli.näkymä.IkkunaKuva == "Kuvat/sattumat/tulipalo2.jpg") ++paloja;
+        peli.arvonta.TyhjennäJono();
+        Aseta(peli.m.Koko_Navetta, 3000);
+    }
+    std::sort(ajat.begin(), ajat.end());
+    std::printf("Seuraava päivä with a barn fire in the news window, %zu presses (%d fires shown):\n", ajat.size(), paloja);
+    std::printf("  median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", ajat[ajat.size() / 2],
+                ajat[ajat.size() * 95 / 100], ajat.back());
+}
 }  // namespace
 
 int MittaaPäivä(const Kansiot& kansiot) {
@@ -341,6 +437,7 @@ int MittaaPäivä(const Kansiot& kansiot) {
     std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
                 ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
     MittaaKäyräJaKuponki(n);
+    MittaaSattumat(n);
     return 0;
 }
 
