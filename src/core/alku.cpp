@@ -224,6 +224,7 @@ void NollaaRuudut(Peli& peli) {
     peli.tilanneruutu = TilanneRuutuTila{};
     peli.käyrätruutu = KäyrätRuutuTila{};
     peli.raviruutu = RaviRuutuTila{};
+    peli.talliruutu = TalliRuutuTila{};
     peli.soitin.Näkyvissä = false;
     peli.käynnissä = false;
 }

@@ -18,6 +18,7 @@ const Ohjainluettelo& Ohjaimet() {
         PankkiruudunOhjaimet(l);
         KäyrätruudunOhjaimet(l);
         RaviruudunOhjaimet(l);
+        HevostalliruudunOhjaimet(l);
         SoittimenOhjaimet(l);
         return l;
     }();

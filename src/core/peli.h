@@ -8,6 +8,7 @@
 
 #include "../animals/eläinruutu.h"
 #include "../buildings/rakennusruutu.h"
+#include "../buildings/talliruutu.h"
 #include "../buildings/tarvikeruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
@@ -98,6 +99,7 @@ struct Peli {
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
     KäyrätRuutuTila käyrätruutu;      // the statistics screen's labels and plot
     RaviRuutuTila raviruutu;          // the race-betting screen, fresh at each opening
+    TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger
     Soitin soitin;                    // the songs and the music player's panel
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;

@@ -39,6 +39,7 @@ void TarvikkeidenToiminnot(Toimintoluettelo& t);  // the supplies shop
 void TilanteenToiminnot(Toimintoluettelo& t);     // the save panel and the start screen's continue
 void KäyrienToiminnot(Toimintoluettelo& t);       // the statistics screen
 void RavienToiminnot(Toimintoluettelo& t);        // the race-betting screen
+void TallinToiminnot(Toimintoluettelo& t);        // the riding stable, motivation and the wage talks
 void SoittimenToiminnot(Toimintoluettelo& t);     // sounds, songs and the music player's panel
 
 // A press a player couldn't make (a hidden or disabled control, a row that is not on the list, a

@@ -54,7 +54,8 @@ struct Ruutu {
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
                                {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
-                               {"Käyrät", "Tanhua.Stat"}};
+                               {"Käyrät", "Tanhua.Stat"},
+                               {"Hevostalli", "Tanhua.Hepotalli"}};
 
 struct Poistuminen {
     const char* toiminto;
@@ -70,6 +71,7 @@ const Poistuminen POISTUMISET[] = {
     {"Tarvikkeet.Sulje", Aina},
     {"Käyrät.Sulje", Aina},
     {"Käyrät.Command2", Aina},
+    {"Hevostalli.Sulje", Aina},
 };
 
 void Siirtymät(Toimintoluettelo& t) {
@@ -145,6 +147,7 @@ const Toimintoluettelo& Toiminnot() {
         TilanteenToiminnot(t);
         KäyrienToiminnot(t);
         RavienToiminnot(t);
+        TallinToiminnot(t);
         SoittimenToiminnot(t);
         Siirtymät(t);
         return t;

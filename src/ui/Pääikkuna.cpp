@@ -11,6 +11,7 @@
 #include "Käyrät.h"
 #include "Ravit.h"
 #include "racing/ravit.h"
+#include "Hevostalli.h"
 #include "Player.h"
 #include "core/musiikki.h"
 #include "market/markkinat.h"
@@ -43,8 +44,9 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     rakennukset_ = new Rakennukset(peli_, *this, pino_);
     pankki_ = new Pankki(peli_, *this, pino_);
     tarvikkeet_ = new Tarvikkeet(peli_, *this, pino_);
+    hevostalli_ = new Hevostalli(peli_, *this, pino_);
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
-                                                          rakennukset_, pankki_, tarvikkeet_})
+                                                          rakennukset_, pankki_, tarvikkeet_, hevostalli_})
         pino_->addWidget(ruutu);
     käyrät_ = new Käyrät(peli_, *this, pino_);
     ravit_ = new Ravit(peli_, *this, pino_);
@@ -98,6 +100,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
             PalaaPääruutuun();
         }
     };
+    tanhua_->AvaaHevostalli = [this] { AvaaRuutu(hevostalli_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -208,6 +211,8 @@ void Pääikkuna::Päivitä() {
         käyrät_->Päivitä();
     } else if (nyt == ravit_) {
         ravit_->Päivitä();
+    } else if (nyt == hevostalli_) {
+        hevostalli_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -228,6 +233,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
             if (ruutu == käyrät_) käyrät_->Avaa();
+            if (ruutu == hevostalli_) hevostalli_->Avaa();
         });
     });
     // The main form folds to its middle line and stays small; the screen opens from it; the main
@@ -310,7 +316,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_ || ruutu == käyrät_;
+           ruutu == tarvikkeet_ || ruutu == käyrät_ || ruutu == hevostalli_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

@@ -27,6 +27,7 @@ class Pankki;
 class Tarvikkeet;
 class Käyrät;
 class Ravit;
+class Hevostalli;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -75,6 +76,7 @@ public:
     // The stable's "Osallistu raveihin": the notice, then the race screen fresh; closing it goes back
     // to `paluu` (the stable), or to the main screen without one.
     void AvaaRavit(QWidget* paluu = nullptr);
+    Hevostalli* hevostalli() const { return hevostalli_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -109,6 +111,7 @@ private:
     Käyrät* käyrät_;
     Ravit* ravit_;
     QWidget* raviPaluu_ = nullptr;
+    Hevostalli* hevostalli_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;
