@@ -222,6 +222,8 @@ void NollaaRuudut(Peli& peli) {
     peli.pankkiruutu = PankkiRuutuTila{};
     peli.tarvikeruutu = TarvikeRuutuTila{};
     peli.tilanneruutu = TilanneRuutuTila{};
+    peli.käyrätruutu = KäyrätRuutuTila{};
+    peli.raviruutu = RaviRuutuTila{};
     peli.talliruutu = TalliRuutuTila{};
     peli.soitin.Näkyvissä = false;
     peli.sopimusruutu = SopimusRuutuTila{};

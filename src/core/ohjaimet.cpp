@@ -16,6 +16,8 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        KäyrätruudunOhjaimet(l);
+        RaviruudunOhjaimet(l);
         HevostalliruudunOhjaimet(l);
         SoittimenOhjaimet(l);
         SopimusruudunOhjaimet(l);

@@ -60,6 +60,8 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l);  // Rakennukset
 void TyövoimaruudunOhjaimet(Ohjainluettelo& l);  // Työvoima
 void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
+void KäyrätruudunOhjaimet(Ohjainluettelo& l);    // Käyrät
+void RaviruudunOhjaimet(Ohjainluettelo& l);      // Ravit
 void HevostalliruudunOhjaimet(Ohjainluettelo& l);  // Hevostalli
 void SoittimenOhjaimet(Ohjainluettelo& l);       // Tanhua.PlayerLogo, Player, MidiFile, MidiValmis
 void SopimusruudunOhjaimet(Ohjainluettelo& l);   // Sopimukset

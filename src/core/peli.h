@@ -13,6 +13,8 @@
 #include "../contracts/sopimusruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
+#include "../racing/raviruutu.h"
+#include "../stats/käyrätruutu.h"
 #include "../storage/tallennus.h"
 #include "../workforce/työvoimaruutu.h"
 #include "arvonta.h"
@@ -97,6 +99,8 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    KäyrätRuutuTila käyrätruutu;      // the statistics screen's labels and plot
+    RaviRuutuTila raviruutu;          // the race-betting screen, fresh at each opening
     TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger
     Soitin soitin;                    // the songs and the music player's panel
     SopimusRuutuTila sopimusruutu;    // the contracts screen's call, sheets and choice

@@ -94,6 +94,8 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
         o.vihje = "Sinulle on jätetty soittopyyntö sopimuksesta";
         return o;
     });
+    // The statistics screen's button.
+    yksi("Stat", [](const Peli& p) { return Näkyvä("Statistiikka", p.näkymä.PääruutuKäytössä); });
 }
 
 }  // namespace tanhua

@@ -37,6 +37,8 @@ void RakennustenToiminnot(Toimintoluettelo& t);   // the building screen and the
 void PankinToiminnot(Toimintoluettelo& t);        // the bank screen: loan, deposit, insurance
 void TarvikkeidenToiminnot(Toimintoluettelo& t);  // the supplies shop
 void TilanteenToiminnot(Toimintoluettelo& t);     // the save panel and the start screen's continue
+void KäyrienToiminnot(Toimintoluettelo& t);       // the statistics screen
+void RavienToiminnot(Toimintoluettelo& t);        // the race-betting screen
 void TallinToiminnot(Toimintoluettelo& t);        // the riding stable, motivation and the wage talks
 void SoittimenToiminnot(Toimintoluettelo& t);     // sounds, songs and the music player's panel
 void SopimustenToiminnot(Toimintoluettelo& t);    // the phone, the contracts screen and the month's delivery

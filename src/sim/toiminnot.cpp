@@ -54,6 +54,7 @@ struct Ruutu {
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
                                {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
+                               {"Käyrät", "Tanhua.Stat"},
                                {"Hevostalli", "Tanhua.Hepotalli"},
                                {"Sopimukset", "Tanhua.Command10"}};
 
@@ -69,6 +70,8 @@ const Poistuminen POISTUMISET[] = {
     {"Työvoima.Takaisin", Aina},
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
+    {"Käyrät.Sulje", Aina},
+    {"Käyrät.Command2", Aina},
     {"Hevostalli.Sulje", Aina},
     // A call open on the contracts screen keeps the player there.
     {"Sopimukset.Sulje", [](const Peli& p) { return !p.sopimusruutu.Puhelussa; }},
@@ -145,6 +148,8 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        KäyrienToiminnot(t);
+        RavienToiminnot(t);
         TallinToiminnot(t);
         SoittimenToiminnot(t);
         SopimustenToiminnot(t);

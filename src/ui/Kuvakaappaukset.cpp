@@ -13,6 +13,10 @@
 #include "Asetukset.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
+#include "Käyrät.h"
+#include "Ravit.h"
+#include "racing/ravit.h"
+#include "stats/käyrät.h"
 #include "Hevostalli.h"
 #include "buildings/talli.h"
 #include "workforce/neuvottelut.h"
@@ -37,6 +41,7 @@
 #include <QTemporaryDir>
 // std
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <vector>
 
@@ -139,6 +144,49 @@ bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
 }  // namespace
 
 namespace {
+bool KäyrätJaRavit(Näyttämö& n, const QDir& kansio) {
+    Pääikkuna& w = n.ikkuna;
+    Peli& peli = n.peli;
+    bool ok = true;
+    // Cash and a fuller silo for the two years.
+    Aseta(peli.m.Koko_Siilo, 2000);
+    Aseta(peli.m.Var[Rehu], 2000);
+    Aseta(peli.m.Raha, peli.m.Raha + 40000);
+    while (peli.m.Vuosi < 1982 || peli.m.Kuukausi < 6) {
+        w.SeuraavaPäivä();
+        if (peli.näkymä.RaporttiAuki) w.raportti()->Command1()->click();
+        if (peli.näkymä.IkkunaNäkyvissä) w.uutiset()->Command1()->click();
+    }
+    w.AvaaRuutu(w.käyrät());
+    PiirräKäyrä(peli, KäyräRaha);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "26-Kayrat-Rahatila.png");
+    TuotteidenNetto(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "27-Kayrat-Taulu.png");
+    w.käyrät()->Command(2)->click();
+
+    w.AvaaRavit();
+    LyöVetoa(peli);
+    ValitseVetolaji(peli, vetolaji::Voittajaveto);
+    NäytäRivi(peli, 0);
+    ValitseKerroin(peli, 3);
+    for (int i = 0; i < 3; ++i) NostaPanosta(peli);
+    HyväksyKuponki(peli);
+    LyöVetoa(peli);
+    ValitseVetolaji(peli, vetolaji::Trio);
+    NäytäRivi(peli, 1);
+    for (int rivi : {2, 6, 0}) MerkitseHevonen(peli, rivi);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "28-Ravit.png");
+    // The same screens in the 800 x 600 design.
+    w.resize(800, 600);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "29-Ravit-800x600.png");
+    w.ravit()->Command(1)->click();
+    return ok;
+}
+
 // The production panels: a dairy slowed on its slider, a feed plant after a month's work, and the
 // packing plant with its conveyor. The three buildings are chosen unbuilt first, as a player
 // ordering them would, which starts them at full output.
@@ -354,6 +402,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     asetukset.show();
     ok &= Tallenna(&asetukset, kansio, "17-Asetukset.png");
     asetukset.hide();
+
     ok &= KuvaaTuotanto(n, kansio);
 
     // A riding stable of five horses on three hectares with two masters: two weeks of lessons in the
@@ -414,10 +463,47 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.Toimi([&] { Palkkaneuvottelut(peli); });
     n.kanavat.kysyttäessä = nullptr;
     ok &= kuvattu;
+    // Two years of the farm in the curves, last month's net table, and a coupon at the races.
+    ok &= KäyrätJaRavit(n, kansio);
     return ok ? 0 : 1;
 }
 
 namespace {
+// A 600-month cash curve worked out and painted at two window sizes, and a coupon accepted with the
+// most participants the draw can give (P = 300 099, 300 105 draws): each within a frame at 60 Hz.
+void MittaaKäyräJaKuponki(Näyttämö& n) {
+    Peli& peli = n.peli;
+    Pääikkuna& w = n.ikkuna;
+    peli.m.Käyrät.Rahatila.clear();
+    for (int i = 0; i < 600; ++i) peli.m.Käyrät.Rahatila.push_back(Str(5000000.0 + 4000000.0 * std::sin(i / 40.0)));
+    w.AvaaRuutu(w.käyrät());
+    QElapsedTimer kello;
+    for (QSize koko : {QSize(800, 600), QSize(1920, 1080)}) {
+        w.resize(koko);
+        QApplication::processEvents();
+        kello.start();
+        PiirräKäyrä(peli, KäyräRaha);
+        w.käyrät()->Taulu()->repaint();
+        std::printf("A 600-item curve worked out and its plot painted at %dx%d: %.2f ms (a frame is 16.7 ms)\n",
+                    koko.width(), koko.height(), static_cast<double>(kello.nsecsElapsed()) / 1e6);
+    }
+    w.käyrät()->Command(2)->click();
+    w.AvaaRavit();
+    LyöVetoa(peli);
+    peli.raviruutu.Vetolaji = vetolaji::Voittajaveto;
+    peli.arvonta.Jonoon(0.5);
+    peli.arvonta.Jonoon(0.99999999);  // P = D(300000) + 100 = 300099
+    kello.start();
+    HyväksyKuponki(peli);
+    const double arvonta = static_cast<double>(kello.nsecsElapsed()) / 1e6;
+    w.Päivitä();
+    w.ravit()->Tulos()->repaint();
+    std::printf("A coupon accepted (\"%s\"): %.2f ms, %.2f ms with its sheet painted\n",
+                peli.raviruutu.tulos[2].teksti.c_str(), arvonta, static_cast<double>(kello.nsecsElapsed()) / 1e6);
+    w.ravit()->Command(1)->click();
+    w.resize(1024, 768);
+}
+
 // The draws a day would take before its events, found by playing the day on a copy of the farm and
 // the generator and then putting both back.
 std::vector<double> DrawsBeforeTheEvents(Peli& peli) {
@@ -557,6 +643,7 @@ int MittaaPäivä(const Kansiot& kansiot) {
     std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
                 ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
     MittaaSattumat(n);
+    MittaaKäyräJaKuponki(n);
     return MittaaJalostus(kansiot);
 }
 

@@ -8,6 +8,9 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Käyrät.h"
+#include "Ravit.h"
+#include "racing/ravit.h"
 #include "Hevostalli.h"
 #include "Player.h"
 #include "core/musiikki.h"
@@ -50,6 +53,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     sopimukset_ = new Sopimukset(peli_, *this, pino_);
     pino_->addWidget(sopimukset_);
     tanhua_->AvaaSopimukset = [this] { AvaaRuutu(sopimukset_); };
+    käyrät_ = new Käyrät(peli_, *this, pino_);
+    ravit_ = new Ravit(peli_, *this, pino_);
+    pino_->addWidget(käyrät_);
+    pino_->addWidget(ravit_);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -89,6 +96,15 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
+    tanhua_->AvaaKäyrät = [this] { AvaaRuutu(käyrät_); };
+    ravit_->Suljettu = [this] {
+        if (raviPaluu_) {
+            pino_->setCurrentWidget(raviPaluu_);
+            Päivitä();
+        } else {
+            PalaaPääruutuun();
+        }
+    };
     tanhua_->AvaaHevostalli = [this] { AvaaRuutu(hevostalli_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
@@ -196,6 +212,10 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == käyrät_) {
+        käyrät_->Päivitä();
+    } else if (nyt == ravit_) {
+        ravit_->Päivitä();
     } else if (nyt == hevostalli_) {
         hevostalli_->Päivitä();
     } else if (nyt == sopimukset_) {
@@ -219,6 +239,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == käyrät_) käyrät_->Avaa();
             if (ruutu == hevostalli_) hevostalli_->Avaa();
             if (ruutu == sopimukset_) sopimukset_->Avaa();
         });
@@ -237,6 +258,13 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
     tanhua_->setGeometry(sivu);
     tanhua_->setEnabled(peli_.näkymä.PääruutuKäytössä);
     AsetteleKyltti();
+}
+
+void Pääikkuna::AvaaRavit(QWidget* paluu) {
+    raviPaluu_ = paluu;
+    Toimi([this] { tanhua::AvaaRavit(peli_); });
+    pino_->setCurrentWidget(ravit_);
+    Päivitä();
 }
 
 void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
@@ -296,7 +324,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_ || ruutu == hevostalli_ || ruutu == sopimukset_;
+           ruutu == tarvikkeet_ || ruutu == käyrät_ || ruutu == hevostalli_ || ruutu == sopimukset_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

@@ -25,6 +25,8 @@ class Työvoima;
 class Rakennukset;
 class Pankki;
 class Tarvikkeet;
+class Käyrät;
+class Ravit;
 class Hevostalli;
 class Sopimukset;
 
@@ -70,6 +72,11 @@ public:
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
+    Käyrät* käyrät() const { return käyrät_; }
+    Ravit* ravit() const { return ravit_; }
+    // The stable's "Osallistu raveihin": the notice, then the race screen fresh; closing it goes back
+    // to `paluu` (the stable), or to the main screen without one.
+    void AvaaRavit(QWidget* paluu = nullptr);
     Hevostalli* hevostalli() const { return hevostalli_; }
     Sopimukset* sopimukset() const { return sopimukset_; }
     QStackedWidget* pino() const { return pino_; }
@@ -103,6 +110,9 @@ private:
     Rakennukset* rakennukset_;
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
+    Käyrät* käyrät_;
+    Ravit* ravit_;
+    QWidget* raviPaluu_ = nullptr;
     Hevostalli* hevostalli_;
     Sopimukset* sopimukset_;
     ikkuna* uutiset_;

@@ -173,6 +173,15 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(command8_, &QPushButton::clicked, this, [this] { if (AvaaTyövoima) AvaaTyövoima(); });
     connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
     connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
+    // The statistics screen's button.
+    stat_ = new QPushButton("Statistiikka", this);
+    stat_->setObjectName("Stat");
+    stat_->setToolTip("Statistiikkaa menestyksestäsi");
+    Teksturoi(peli_, stat_, "nappi.jpg", 12, 14);
+    stat_->setMinimumSize(150, 40);
+    Ohje("Stat", stat_);
+    stat_->installEventFilter(this);
+    connect(stat_, &QPushButton::clicked, this, [this] { if (AvaaKäyrät) AvaaKäyrät(); });
 
     // The stable's button, shown only with a stable and a mare.
     hepotalli_ = new QPushButton("Hevostalli", this);
@@ -218,6 +227,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->setColumnStretch(3, 1);
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
+    ala->addWidget(stat_, 0, 3, Qt::AlignLeft);
     ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
     ala->addWidget(command10_, 2, 0);
     auto* pää = new QVBoxLayout(this);
@@ -304,6 +314,7 @@ void Tanhua::Päivitä() {
     }};
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
+    Näytä(stat_, lue("Stat"));
     Näytä(hepotalli_, lue("Hepotalli"));
     liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
     if (const Ohjain aste = lue("AsteLuku"); aste.väri)

@@ -50,6 +50,7 @@ public:
     QPushButton* Command9() const { return command9_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
+    QPushButton* Stat() const { return stat_; }
     QPushButton* Hepotalli() const { return hepotalli_; }
     QLabel* Rahaz() const { return rahaz_; }
     QListWidget* Lista() const { return lista_; }
@@ -66,6 +67,7 @@ public:
         SeuraavaPäivä, Lopeta;
     std::function<void()> AvaaHevostalli;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
+    std::function<void()> AvaaKäyrät;     // "Statistiikka"
     std::function<void()> AvaaSoitin;     // a click on the music player's badge
 
 protected:
@@ -87,6 +89,7 @@ private:
                 *command8_ = nullptr, *command9_ = nullptr, *command4_ = nullptr, *lopetus_ = nullptr;
     QPushButton* hepotalli_ = nullptr;  // the stable, shown with a stable and a mare
     std::string tausta_;
+    QPushButton* stat_ = nullptr;
     QLabel* playerLogo_ = nullptr;
     class Player* player_ = nullptr;
     QPushButton* command10_ = nullptr;
