@@ -16,6 +16,8 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        TilanneruudunOhjaimet(l);
+        ToptenruudunOhjaimet(l);
         return l;
     }();
     return luettelo;

@@ -60,6 +60,8 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l);  // Rakennukset
 void TyövoimaruudunOhjaimet(Ohjainluettelo& l);  // Työvoima
 void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
+void TilanneruudunOhjaimet(Ohjainluettelo& l);   // Tilanne
+void ToptenruudunOhjaimet(Ohjainluettelo& l);    // Topten
 
 // A control by its written name: "Tanhua.Sää", or a member of an array as "Tanhua.TP_Kuva(1)".
 // Empty for a name no screen has, or an index outside the array.

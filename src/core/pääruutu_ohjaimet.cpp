@@ -82,6 +82,8 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
             return Näkyvä(teksti, käytössä);
         });
     }
+    // The Tilanne screen's button: where the career stands, the saves and retirement.
+    yksi("Command7", [](const Peli& p) { return Näkyvä("Tilanne", p.näkymä.PääruutuKäytössä); });
 }
 
 }  // namespace tanhua
