@@ -8,6 +8,8 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Tilanne.h"
+#include "Topten.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -39,6 +41,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
                                                           rakennukset_, pankki_, tarvikkeet_})
         pino_->addWidget(ruutu);
+    tilanne_ = new Tilanne(peli_, *this, pino_);
+    topten_ = new Topten(peli_, *this, pino_);
+    pino_->addWidget(tilanne_);
+    pino_->addWidget(topten_);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -70,6 +76,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
+    tanhua_->AvaaTilanne = [this] { AvaaRuutu(tilanne_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -115,7 +122,7 @@ void Pääikkuna::Toimi(const std::function<void()>& toiminto) {
 }
 
 void Pääikkuna::Päivitä() {
-    QWidget* nyt = pino_->currentWidget();
+    QWidget* nyt = UranRuutu(pino_->currentWidget());
     if (nyt == tanhua_) {
         Päivitälukemat(peli_);
         tanhua_->Päivitä();
@@ -132,6 +139,10 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == tilanne_) {
+        tilanne_->Päivitä();
+    } else if (nyt == topten_) {
+        topten_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -151,6 +162,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == tilanne_) tilanne_->Avaa();
         });
     });
     pino_->setCurrentWidget(ruutu);
@@ -199,7 +211,16 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_;
+           ruutu == tarvikkeet_ || ruutu == tilanne_;
+}
+
+QWidget* Pääikkuna::UranRuutu(QWidget* nyt) {
+    const TilanneRuutuTila& t = peli_.tilanneruutu;
+    QWidget* oikea = nyt;
+    if (t.Topten.auki && !t.auki && (nyt == tilanne_ || nyt == tanhua_)) oikea = topten_;
+    else if (t.auki && !t.Topten.auki && (nyt == topten_ || (nyt == tanhua_ && t.Tarina))) oikea = tilanne_;
+    if (oikea != nyt) pino_->setCurrentWidget(oikea);
+    return oikea;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

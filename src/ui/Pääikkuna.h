@@ -23,6 +23,8 @@ class Työvoima;
 class Rakennukset;
 class Pankki;
 class Tarvikkeet;
+class Tilanne;
+class Topten;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -58,6 +60,8 @@ public:
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
+    Tilanne* tilanne() const { return tilanne_; }
+    Topten* topten() const { return topten_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -74,6 +78,8 @@ protected:
 private:
     void AsetteleKyltti();
     bool OnAlaruutu(QWidget* ruutu) const;
+    // The Tilanne and top-ten screens lead to each other, and the story keeps its screen up.
+    QWidget* UranRuutu(QWidget* nyt);
     void LataaKursorit();
 
     Peli& peli_;
@@ -87,6 +93,8 @@ private:
     Rakennukset* rakennukset_;
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
+    Tilanne* tilanne_;
+    Topten* topten_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

@@ -167,6 +167,15 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(command8_, &QPushButton::clicked, this, [this] { if (AvaaTyövoima) AvaaTyövoima(); });
     connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
     connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
+    // The Tilanne screen's button: the score, the saves and retirement.
+    command7_ = new QPushButton("Tilanne", this);
+    command7_->setObjectName("Command7");
+    command7_->setToolTip("Tilanteen tallentaminen sekä eläke");
+    Teksturoi(peli_, command7_, "nappi.jpg", 12, 14);
+    command7_->setMinimumSize(150, 40);
+    Ohje("Command7", command7_);
+    command7_->installEventFilter(this);
+    connect(command7_, &QPushButton::clicked, this, [this] { if (AvaaTilanne) AvaaTilanne(); });
 
     // Layout: information left, gauges right, list in the middle, buttons along the bottom.
     auto* ylä = new QHBoxLayout;
@@ -186,6 +195,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->setColumnStretch(3, 1);
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
+    ala->addWidget(command7_, 0, 3, Qt::AlignLeft);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -247,6 +257,7 @@ void Tanhua::Päivitä() {
     }};
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
+    Näytä(command7_, lue("Command7"));
     liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
     if (const Ohjain aste = lue("AsteLuku"); aste.väri)
         asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;")

@@ -48,6 +48,7 @@ public:
     QPushButton* Command6() const { return command6_; }
     QPushButton* Command8() const { return command8_; }
     QPushButton* Command9() const { return command9_; }
+    QPushButton* Command7() const { return command7_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
     QLabel* Rahaz() const { return rahaz_; }
@@ -57,6 +58,7 @@ public:
     // What the frame does for the buttons of the main screen.
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
+    std::function<void()> AvaaTilanne;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
 
 protected:
@@ -73,6 +75,7 @@ private:
     std::array<MittariKuva*, 4> mittarit_{};
     QListWidget* lista_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
+    QPushButton* command7_;
     std::string tausta_;
 };
 
