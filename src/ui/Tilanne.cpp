@@ -22,7 +22,7 @@ namespace {
 Ohjain O(const Peli& peli, const QObject* w) { return LueRuudulta(peli, "Tilanne", w->objectName().toStdString()); }
 }  // namespace
 
-PainettuAlue::PainettuAlue(const char* nimi, QWidget* vanhempi) : QFrame(vanhempi) {
+PainettuAlue::PainettuAlue(const char* nimi, int koko, QWidget* vanhempi) : QFrame(vanhempi), koko_(koko) {
     setObjectName(nimi);
     setMinimumSize(380, 330);
 }
@@ -57,7 +57,7 @@ void PainettuAlue::paintEvent(QPaintEvent*) {
     p.setBrush(QColor(255, 250, 235, tausta_.isNull() ? 230 : 190));
     p.drawRoundedRect(arkki, 10, 10);
     QFont fontti = font();
-    fontti.setPointSize(11);
+    fontti.setPointSize(koko_);
     p.setFont(fontti);
     p.setPen(QColor(36, 22, 10));
     const int rivinKorkeus = p.fontMetrics().height();
@@ -91,8 +91,8 @@ Tilanne::Tilanne(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(va
     QWidget* vasen = new QWidget(this);
     auto* v = new QGridLayout(vasen);
     v->setContentsMargins(0, 0, 0, 0);
-    alue_ = new PainettuAlue("Alue", vasen);
-    tarina_ = new PainettuAlue("Tarina", vasen);
+    alue_ = new PainettuAlue("Alue", 11, vasen);
+    tarina_ = new PainettuAlue("Tarina", 10, vasen);
     tarina_->setMinimumSize(460, 400);
     tarinaSulje_ = Nappi("TarinaSulje", tarina_);
     auto* t = new QVBoxLayout(tarina_);
@@ -116,6 +116,7 @@ Tilanne::Tilanne(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(va
     connect(listat_, &QPushButton::clicked, this, [this] { Toimi(EnnätysListat); });
     connect(uusi_, &QPushButton::clicked, this, &Tilanne::UusiTilanne);
     akkuna_ = Paneeli();
+    oikea->addSpacing(48);  // the money plate stands over the top of the column
     oikea->addWidget(napit);
     oikea->addWidget(akkuna_);
     oikea->addStretch();

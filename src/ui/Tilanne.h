@@ -20,7 +20,7 @@ class Pääikkuna;
 // A printed area: lines of text as the game prints them, on a light sheet over the backdrop.
 class PainettuAlue : public QFrame {
 public:
-    PainettuAlue(const char* nimi, QWidget* vanhempi);
+    PainettuAlue(const char* nimi, int koko, QWidget* vanhempi);
     void AsetaRivit(const std::vector<std::string>& rivit);
     void AsetaTausta(const QPixmap& kuva);
     const QStringList& Rivit() const { return rivit_; }
@@ -31,6 +31,7 @@ protected:
 private:
     QStringList rivit_;
     QPixmap tausta_;
+    int koko_;  // the print's point size
 };
 
 class Tilanne : public Tausta {
