@@ -233,6 +233,7 @@ void Tilanne::UusiTilanne() {
     // The farm is thrown away: the start screen again.
     ikkuna_.pino()->setCurrentWidget(ikkuna_.alku());
     ikkuna_.alku()->Päivitä();
+    ikkuna_.Päivitä();  // the money plate goes with the farm
 }
 
 }  // namespace tanhua::ui
