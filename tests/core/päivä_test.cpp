@@ -119,7 +119,9 @@ TEST(Goals, TheMillionAndTheTenthYear) {
         const bool tarina = c.viesti == miljoona;
         EXPECT_EQ(e.size() > 1 && e[1] == "ALUE|Tarina", tarina) << c.vuosi;
         EXPECT_EQ(t.peli.tilanneruutu.auki && t.peli.tilanneruutu.Tarina, tarina) << c.vuosi;
-        if (!tarina) EXPECT_LE(e.size(), 1u) << c.vuosi;
+        if (!tarina) {
+            EXPECT_LE(e.size(), 1u) << c.vuosi;
+        }
     }
 }
 
