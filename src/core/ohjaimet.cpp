@@ -18,6 +18,7 @@ const Ohjainluettelo& Ohjaimet() {
         PankkiruudunOhjaimet(l);
         TilanneruudunOhjaimet(l);
         ToptenruudunOhjaimet(l);
+        SoittimenOhjaimet(l);
         return l;
     }();
     return luettelo;

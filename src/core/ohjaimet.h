@@ -62,6 +62,7 @@ void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
 void TilanneruudunOhjaimet(Ohjainluettelo& l);   // Tilanne
 void ToptenruudunOhjaimet(Ohjainluettelo& l);    // Topten
+void SoittimenOhjaimet(Ohjainluettelo& l);       // Tanhua.PlayerLogo, Player, MidiFile, MidiValmis
 
 // A control by its written name: "Tanhua.Sää", or a member of an array as "Tanhua.TP_Kuva(1)".
 // Empty for a name no screen has, or an index outside the array.

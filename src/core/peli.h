@@ -16,6 +16,7 @@
 #include "arvonta.h"
 #include "kanavat.h"
 #include "pääruutu.h"
+#include "soitin.h"
 #include "state.h"
 
 namespace tanhua {
@@ -93,6 +94,7 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    Soitin soitin;                    // the songs and the music player's panel
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

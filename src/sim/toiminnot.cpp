@@ -154,6 +154,7 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        SoittimenToiminnot(t);
         Siirtymät(t);
         return t;
     }();

@@ -2,6 +2,7 @@
 #include "Tanhua.h"
 
 // own
+#include "Player.h"
 #include "core/pääruutu.h"
 #include "core/sää.h"
 // Qt
@@ -121,8 +122,13 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     lista_ = new QListWidget(this);
     lista_->setObjectName("Lista");
     lista_->setToolTip("Ilmoitus lista");
-    lista_->setStyleSheet("QListWidget { background: rgba(255, 252, 240, 225); border: 2px solid #6b4a22;"
-                          " border-radius: 6px; font-size: 11pt; }");
+    // The list is a page of the game's notebook: paper, a serif hand, the newest line in ink, no
+    // selection bar of the toolkit's own.
+    lista_->setStyleSheet("QListWidget { background: rgba(250, 243, 222, 232); border: 2px solid #6b4a22;"
+                          " border-radius: 6px; font-family: 'DejaVu Serif'; font-size: 11pt; color: #3b2a14;"
+                          " padding: 4px; }"
+                          " QListWidget::item { border-bottom: 1px solid rgba(107, 74, 34, 60); padding: 1px 2px; }"
+                          " QListWidget::item:selected { background: transparent; color: #1f1408; font-weight: bold; }");
     lista_->setFocusPolicy(Qt::NoFocus);
     lista_->setMaximumSize(640, 240);
 
@@ -202,6 +208,14 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     pää->addLayout(keski, 1);
     pää->addWidget(ohje_);
     pää->addLayout(ala);
+
+    // The music player's badge beside the stars; its panel comes out over the screen.
+    playerLogo_ = new QLabel(this);
+    playerLogo_->setObjectName("PlayerLogo");
+    playerLogo_->setCursor(Qt::PointingHandCursor);
+    playerLogo_->installEventFilter(this);
+    ylä->insertWidget(3, playerLogo_, 0, Qt::AlignTop);
+    player_ = new Player(peli_, this);
 }
 
 void Tanhua::Ohje(const char* kontrolli, QWidget* w) {
@@ -216,6 +230,10 @@ bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
             peli_.näkymä.Ohje = Ohjeteksti(kontrolli.toString().toStdString());
             ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
         }
+    }
+    if (tapahtuma->type() == QEvent::MouseButtonPress && kohde == playerLogo_) {
+        if (AvaaSoitin && playerLogo_->isEnabled()) AvaaSoitin();
+        return true;
     }
     if (tapahtuma->type() == QEvent::MouseButtonPress && kohde->property("tähti").isValid()) {
         if (NäytäTähti) NäytäTähti(kohde->property("tähti").toInt());
@@ -280,6 +298,10 @@ void Tanhua::Päivitä() {
     lista_->setVisible(lue("Lista").näkyvissä);
     if (lista_->count() > 0) lista_->setCurrentRow(lista_->count() - 1);
     Näytä(ohje_, lue("Ohje"));
+    const Ohjain logo = lue("PlayerLogo");
+    NäytäKuva(peli_, playerLogo_, "Kuvat/", logo, 48);
+    playerLogo_->setEnabled(logo.käytössä);
+    player_->Päivitä();
 }
 
 }  // namespace tanhua::ui
