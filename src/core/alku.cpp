@@ -222,6 +222,7 @@ void NollaaRuudut(Peli& peli) {
     peli.pankkiruutu = PankkiRuutuTila{};
     peli.tarvikeruutu = TarvikeRuutuTila{};
     peli.tilanneruutu = TilanneRuutuTila{};
+    peli.talliruutu = TalliRuutuTila{};
     peli.soitin.Näkyvissä = false;
     peli.käynnissä = false;
 }

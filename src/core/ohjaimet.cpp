@@ -16,6 +16,7 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        HevostalliruudunOhjaimet(l);
         TilanneruudunOhjaimet(l);
         ToptenruudunOhjaimet(l);
         SoittimenOhjaimet(l);

@@ -60,6 +60,7 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l);  // Rakennukset
 void TyövoimaruudunOhjaimet(Ohjainluettelo& l);  // Työvoima
 void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
+void HevostalliruudunOhjaimet(Ohjainluettelo& l);  // Hevostalli
 void TilanneruudunOhjaimet(Ohjainluettelo& l);   // Tilanne
 void ToptenruudunOhjaimet(Ohjainluettelo& l);    // Topten
 void SoittimenOhjaimet(Ohjainluettelo& l);       // Tanhua.PlayerLogo, Player, MidiFile, MidiValmis

@@ -8,6 +8,7 @@
 
 #include "../animals/eläinruutu.h"
 #include "../buildings/rakennusruutu.h"
+#include "../buildings/talliruutu.h"
 #include "../buildings/tarvikeruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../market/tuoteruutu.h"
@@ -94,6 +95,7 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger
     Soitin soitin;                    // the songs and the music player's panel
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;

@@ -8,6 +8,7 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Hevostalli.h"
 #include "Tilanne.h"
 #include "Topten.h"
 #include "Player.h"
@@ -42,8 +43,9 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     rakennukset_ = new Rakennukset(peli_, *this, pino_);
     pankki_ = new Pankki(peli_, *this, pino_);
     tarvikkeet_ = new Tarvikkeet(peli_, *this, pino_);
+    hevostalli_ = new Hevostalli(peli_, *this, pino_);
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
-                                                          rakennukset_, pankki_, tarvikkeet_})
+                                                          rakennukset_, pankki_, tarvikkeet_, hevostalli_})
         pino_->addWidget(ruutu);
     tilanne_ = new Tilanne(peli_, *this, pino_);
     topten_ = new Topten(peli_, *this, pino_);
@@ -88,6 +90,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
+    tanhua_->AvaaHevostalli = [this] { AvaaRuutu(hevostalli_); };
     tanhua_->AvaaTilanne = [this] { AvaaRuutu(tilanne_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
@@ -195,6 +198,8 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == hevostalli_) {
+        hevostalli_->Päivitä();
     } else if (nyt == tilanne_) {
         tilanne_->Päivitä();
     } else if (nyt == topten_) {
@@ -218,6 +223,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == hevostalli_) hevostalli_->Avaa();
             if (ruutu == tilanne_) tilanne_->Avaa();
         });
     });
@@ -294,7 +300,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_ || ruutu == tilanne_;
+           ruutu == tarvikkeet_ || ruutu == hevostalli_ || ruutu == tilanne_;
 }
 
 QWidget* Pääikkuna::UranRuutu(QWidget* nyt) {

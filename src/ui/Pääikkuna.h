@@ -25,6 +25,7 @@ class Työvoima;
 class Rakennukset;
 class Pankki;
 class Tarvikkeet;
+class Hevostalli;
 class Tilanne;
 class Topten;
 
@@ -70,6 +71,7 @@ public:
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
+    Hevostalli* hevostalli() const { return hevostalli_; }
     Tilanne* tilanne() const { return tilanne_; }
     Topten* topten() const { return topten_; }
     QStackedWidget* pino() const { return pino_; }
@@ -105,6 +107,7 @@ private:
     Rakennukset* rakennukset_;
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
+    Hevostalli* hevostalli_;
     Tilanne* tilanne_;
     Topten* topten_;
     ikkuna* uutiset_;

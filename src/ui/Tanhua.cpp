@@ -183,6 +183,16 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     command7_->installEventFilter(this);
     connect(command7_, &QPushButton::clicked, this, [this] { if (AvaaTilanne) AvaaTilanne(); });
 
+    // The stable's button, shown only with a stable and a mare.
+    hepotalli_ = new QPushButton("Hevostalli", this);
+    hepotalli_->setObjectName("Hepotalli");
+    hepotalli_->setToolTip("Hevosten tulot ja tunnit");
+    Teksturoi(peli_, hepotalli_, "nappi.jpg", 12, 14);
+    hepotalli_->setMinimumSize(150, 40);
+    Ohje("Hepotalli", hepotalli_);
+    hepotalli_->hide();
+    connect(hepotalli_, &QPushButton::clicked, this, [this] { if (AvaaHevostalli) AvaaHevostalli(); });
+
     // Layout: information left, gauges right, list in the middle, buttons along the bottom.
     auto* ylä = new QHBoxLayout;
     ylä->addWidget(tiedot, 0, Qt::AlignTop);
@@ -201,6 +211,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->setColumnStretch(3, 1);
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
+    ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
     ala->addWidget(command7_, 0, 3, Qt::AlignLeft);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
@@ -275,6 +286,7 @@ void Tanhua::Päivitä() {
     }};
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
+    Näytä(hepotalli_, lue("Hepotalli"));
     Näytä(command7_, lue("Command7"));
     liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
     if (const Ohjain aste = lue("AsteLuku"); aste.väri)
