@@ -19,6 +19,8 @@ const Ohjainluettelo& Ohjaimet() {
         KäyrätruudunOhjaimet(l);
         RaviruudunOhjaimet(l);
         HevostalliruudunOhjaimet(l);
+        TilanneruudunOhjaimet(l);
+        ToptenruudunOhjaimet(l);
         SoittimenOhjaimet(l);
         SopimusruudunOhjaimet(l);
         return l;

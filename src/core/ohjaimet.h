@@ -63,6 +63,8 @@ void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
 void KäyrätruudunOhjaimet(Ohjainluettelo& l);    // Käyrät
 void RaviruudunOhjaimet(Ohjainluettelo& l);      // Ravit
 void HevostalliruudunOhjaimet(Ohjainluettelo& l);  // Hevostalli
+void TilanneruudunOhjaimet(Ohjainluettelo& l);   // Tilanne
+void ToptenruudunOhjaimet(Ohjainluettelo& l);    // Topten
 void SoittimenOhjaimet(Ohjainluettelo& l);       // Tanhua.PlayerLogo, Player, MidiFile, MidiValmis
 void SopimusruudunOhjaimet(Ohjainluettelo& l);   // Sopimukset
 

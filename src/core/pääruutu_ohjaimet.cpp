@@ -96,6 +96,8 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
     });
     // The statistics screen's button.
     yksi("Stat", [](const Peli& p) { return Näkyvä("Statistiikka", p.näkymä.PääruutuKäytössä); });
+    // The Tilanne screen's button: where the career stands, the saves and retirement.
+    yksi("Command7", [](const Peli& p) { return Näkyvä("Tilanne", p.näkymä.PääruutuKäytössä); });
 }
 
 }  // namespace tanhua

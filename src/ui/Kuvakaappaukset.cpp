@@ -20,6 +20,11 @@
 #include "Hevostalli.h"
 #include "buildings/talli.h"
 #include "workforce/neuvottelut.h"
+#include "Tilanne.h"
+#include "Topten.h"
+#include "career/tilanne.h"
+#include "storage/tallennus.h"
+#include "storage/topten.h"
 #include "animals/kauppa.h"
 #include "buildings/rakentaminen.h"
 #include "buildings/tarvikkeet.h"
@@ -61,6 +66,9 @@ public:
     std::function<std::string(const std::string&, int)> kysyttäessä;
     void Laatikko(const std::string&) override {}
     std::string Kehote(const std::string&, const std::string& oletus) override { return oletus; }
+    std::string KehoteOtsikolla(const std::string&, const std::string&, const std::string& oletus) override {
+        return oletus;
+    }
     bool Vikalaatikko(const std::string&, int, const std::string&) override { return true; }
     void Ääni(const std::string&) override {}
     bool ÄäniLaite() override { return true; }
@@ -465,6 +473,25 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     ok &= kuvattu;
     // Two years of the farm in the curves, last month's net table, and a coupon at the races.
     ok &= KäyrätJaRavit(n, kansio);
+
+    // The Tilanne screen: the score, then the panel with two saves listed, the story, the list.
+    w.PalaaPääruutuun();
+    TallennaTilanne(peli, "Kesä1980");
+    TallennaTilanne(peli, "Joulu");
+    w.AvaaRuutu(w.tilanne());
+    ok &= Tallenna(&w, kansio, "26-Tilanne.png");
+    AvaaPaneeli(peli);
+    ValitseTiedosto(peli, "Joulu.sav");
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "27-Tilanne-Tallenna.png");
+    SuljePaneeli(peli);
+    LoppuJuttu(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "28-Tarina.png");
+    peli.tilanneruutu.Pisteet = 75;
+    SuljeTarina(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "29-Topten.png");
     return ok ? 0 : 1;
 }
 
@@ -551,8 +578,37 @@ void MittaaSattumat(Näyttämö& n) {
     std::printf("  median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", ajat[ajat.size() / 2],
                 ajat[ajat.size() * 95 / 100], ajat.back());
 }
+// The mean and the slowest of a run of timings, in milliseconds.
+void Kerro(const char* mikä, std::vector<double> ajat) {
+    std::sort(ajat.begin(), ajat.end());
+    double summa = 0;
+    for (double t : ajat) summa += t;
+    std::printf("  %s: mean %.2f ms, median %.2f ms, slowest %.2f ms\n", mikä, summa / ajat.size(),
+                ajat[ajat.size() / 2], ajat.back());
+}
 }  // namespace
 
+void MittaaTallennus(Peli& peli) {
+    // Fifty years of month ends: 600 entries in each of the six chart lists.
+    KäyrätRuutu& k = peli.m.Käyrät;
+    for (auto* lista : {&k.LV, &k.Netto, &k.Rahatila, &k.YHTPalkat, &k.Eläimiä, &k.Rakennuksia}) {
+        lista->clear();
+        for (int kuukausi = 0; kuukausi < 600; ++kuukausi) lista->push_back(Str(123456.7 + kuukausi * 17));
+    }
+    std::vector<double> tallennus, avaus;
+    QElapsedTimer kello;
+    for (int kerta = 0; kerta < 50; ++kerta) {
+        kello.start();
+        TallennaTilanne(peli, "Mittari");
+        tallennus.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+        kello.start();
+        AvaaTilanne(peli, "Mittari");
+        avaus.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+    }
+    std::printf("A 50-year farm (600 entries in each chart list), 50 times each:\n");
+    Kerro("TallennaTilanne", tallennus);
+    Kerro("AvaaTilanne", avaus);
+}
 namespace {
 // The day on a farm where every chain works: all thirteen buildings at level 5, ten workers in each
 // job on overtime, every device owned and raw stock to work on for the whole year.
@@ -644,6 +700,7 @@ int MittaaPäivä(const Kansiot& kansiot) {
                 ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
     MittaaSattumat(n);
     MittaaKäyräJaKuponki(n);
+    MittaaTallennus(n.peli);
     return MittaaJalostus(kansiot);
 }
 

@@ -12,6 +12,8 @@
 #include "Ravit.h"
 #include "racing/ravit.h"
 #include "Hevostalli.h"
+#include "Tilanne.h"
+#include "Topten.h"
 #include "Player.h"
 #include "core/musiikki.h"
 #include "Sopimukset.h"
@@ -57,6 +59,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     ravit_ = new Ravit(peli_, *this, pino_);
     pino_->addWidget(käyrät_);
     pino_->addWidget(ravit_);
+    tilanne_ = new Tilanne(peli_, *this, pino_);
+    topten_ = new Topten(peli_, *this, pino_);
+    pino_->addWidget(tilanne_);
+    pino_->addWidget(topten_);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -106,6 +112,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         }
     };
     tanhua_->AvaaHevostalli = [this] { AvaaRuutu(hevostalli_); };
+    tanhua_->AvaaTilanne = [this] { AvaaRuutu(tilanne_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -195,7 +202,7 @@ void Pääikkuna::Toimi(const std::function<void()>& toiminto) {
 }
 
 void Pääikkuna::Päivitä() {
-    QWidget* nyt = pino_->currentWidget();
+    QWidget* nyt = UranRuutu(pino_->currentWidget());
     if (nyt == tanhua_) {
         Päivitälukemat(peli_);
         tanhua_->Päivitä();
@@ -220,6 +227,10 @@ void Pääikkuna::Päivitä() {
         hevostalli_->Päivitä();
     } else if (nyt == sopimukset_) {
         sopimukset_->Päivitä();
+    } else if (nyt == tilanne_) {
+        tilanne_->Päivitä();
+    } else if (nyt == topten_) {
+        topten_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -242,6 +253,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == käyrät_) käyrät_->Avaa();
             if (ruutu == hevostalli_) hevostalli_->Avaa();
             if (ruutu == sopimukset_) sopimukset_->Avaa();
+            if (ruutu == tilanne_) tilanne_->Avaa();
         });
     });
     // The main form folds to its middle line and stays small; the screen opens from it; the main
@@ -324,7 +336,17 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_ || ruutu == käyrät_ || ruutu == hevostalli_ || ruutu == sopimukset_;
+           ruutu == tarvikkeet_ || ruutu == käyrät_ || ruutu == hevostalli_ || ruutu == sopimukset_ ||
+           ruutu == tilanne_;
+}
+
+QWidget* Pääikkuna::UranRuutu(QWidget* nyt) {
+    const TilanneRuutuTila& t = peli_.tilanneruutu;
+    QWidget* oikea = nyt;
+    if (t.Topten.auki && !t.auki && (nyt == tilanne_ || nyt == tanhua_)) oikea = topten_;
+    else if (t.auki && !t.Topten.auki && (nyt == topten_ || (nyt == tanhua_ && t.Tarina))) oikea = tilanne_;
+    if (oikea != nyt) pino_->setCurrentWidget(oikea);
+    return oikea;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

@@ -29,6 +29,8 @@ class Käyrät;
 class Ravit;
 class Hevostalli;
 class Sopimukset;
+class Tilanne;
+class Topten;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -79,6 +81,8 @@ public:
     void AvaaRavit(QWidget* paluu = nullptr);
     Hevostalli* hevostalli() const { return hevostalli_; }
     Sopimukset* sopimukset() const { return sopimukset_; }
+    Tilanne* tilanne() const { return tilanne_; }
+    Topten* topten() const { return topten_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -95,6 +99,8 @@ protected:
 private:
     void AsetteleKyltti();
     bool OnAlaruutu(QWidget* ruutu) const;
+    // The Tilanne and top-ten screens lead to each other, and the story keeps its screen up.
+    QWidget* UranRuutu(QWidget* nyt);
     void LataaKursorit();
     // A screen folding to its middle line (or opening from it) by the rounds the rules give.
     void Taita(QWidget* lomake, const Taitto& taitto);
@@ -115,6 +121,8 @@ private:
     QWidget* raviPaluu_ = nullptr;
     Hevostalli* hevostalli_;
     Sopimukset* sopimukset_;
+    Tilanne* tilanne_;
+    Topten* topten_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

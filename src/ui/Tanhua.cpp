@@ -182,6 +182,15 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     Ohje("Stat", stat_);
     stat_->installEventFilter(this);
     connect(stat_, &QPushButton::clicked, this, [this] { if (AvaaKäyrät) AvaaKäyrät(); });
+    // The Tilanne screen's button: the score, the saves and retirement.
+    command7_ = new QPushButton("Tilanne", this);
+    command7_->setObjectName("Command7");
+    command7_->setToolTip("Tilanteen tallentaminen sekä eläke");
+    Teksturoi(peli_, command7_, "nappi.jpg", 12, 14);
+    command7_->setMinimumSize(150, 40);
+    Ohje("Command7", command7_);
+    command7_->installEventFilter(this);
+    connect(command7_, &QPushButton::clicked, this, [this] { if (AvaaTilanne) AvaaTilanne(); });
 
     // The stable's button, shown only with a stable and a mare.
     hepotalli_ = new QPushButton("Hevostalli", this);
@@ -230,6 +239,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->addWidget(stat_, 0, 3, Qt::AlignLeft);
     ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
     ala->addWidget(command10_, 2, 0);
+    ala->addWidget(command7_, 0, 3, Qt::AlignLeft);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -316,6 +326,7 @@ void Tanhua::Päivitä() {
     Näytä(lopetus_, lue("Lopetus"));
     Näytä(stat_, lue("Stat"));
     Näytä(hepotalli_, lue("Hepotalli"));
+    Näytä(command7_, lue("Command7"));
     liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
     if (const Ohjain aste = lue("AsteLuku"); aste.väri)
         asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;")

@@ -48,6 +48,7 @@ public:
     QPushButton* Command6() const { return command6_; }
     QPushButton* Command8() const { return command8_; }
     QPushButton* Command9() const { return command9_; }
+    QPushButton* Command7() const { return command7_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
     QPushButton* Stat() const { return stat_; }
@@ -66,6 +67,7 @@ public:
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
     std::function<void()> AvaaHevostalli;
+    std::function<void()> AvaaTilanne;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
     std::function<void()> AvaaKäyrät;     // "Statistiikka"
     std::function<void()> AvaaSoitin;     // a click on the music player's badge
@@ -88,6 +90,7 @@ private:
     QPushButton *command1_ = nullptr, *command2_ = nullptr, *command3_ = nullptr, *command6_ = nullptr,
                 *command8_ = nullptr, *command9_ = nullptr, *command4_ = nullptr, *lopetus_ = nullptr;
     QPushButton* hepotalli_ = nullptr;  // the stable, shown with a stable and a mare
+    QPushButton* command7_ = nullptr;
     std::string tausta_;
     QPushButton* stat_ = nullptr;
     QLabel* playerLogo_ = nullptr;
