@@ -16,7 +16,7 @@ namespace tanhua {
 
 namespace {
 
-constexpr int RIVEJÄ = 10;
+constexpr int LISTAN_RIVEJÄ = 10;
 constexpr std::string_view PAIKKA_NÄYTÄ = "Topten listat";
 constexpr std::string_view PAIKKA_LASKE = "Top ten listaan pääsy";
 
@@ -82,16 +82,16 @@ void Lue(Peli& peli, ListanViat& viat) {
         const std::vector<std::string> rivit = ListanRivit(*tavut);
         // The scratch copy stays behind for the next user to overwrite.
         Kirjoita(Tiedosto(peli, "temp.dat"), Tavuina(rivit));
-        for (int i = 0; i < 2 * RIVEJÄ && i < static_cast<int>(rivit.size()); ++i)
-            (i < RIVEJÄ ? t.n[i + 1] : t.p[i - RIVEJÄ + 1]) = rivit[i];
-        if (rivit.size() < 2 * RIVEJÄ) NostaVika(VIKA_TIEDOSTO_LOPPUI);
+        for (int i = 0; i < 2 * LISTAN_RIVEJÄ && i < static_cast<int>(rivit.size()); ++i)
+            (i < LISTAN_RIVEJÄ ? t.n[i + 1] : t.p[i - LISTAN_RIVEJÄ + 1]) = rivit[i];
+        if (rivit.size() < 2 * LISTAN_RIVEJÄ) NostaVika(VIKA_TIEDOSTO_LOPPUI);
     });
 }
 
 std::vector<std::string> Rivit(const ToptenRuutuTila& t) {
     std::vector<std::string> rivit;
-    for (int i = 1; i <= RIVEJÄ; ++i) rivit.push_back(t.n[i]);
-    for (int i = 1; i <= RIVEJÄ; ++i) rivit.push_back(t.p[i]);
+    for (int i = 1; i <= LISTAN_RIVEJÄ; ++i) rivit.push_back(t.n[i]);
+    for (int i = 1; i <= LISTAN_RIVEJÄ; ++i) rivit.push_back(t.p[i]);
     return rivit;
 }
 
@@ -119,14 +119,14 @@ std::string ListaTiedostoksi(const std::vector<std::string>& rivit) {
 }
 
 int ListanPaikka(const std::array<std::string, 11>& p, double uusi, bool pienempiParempi) {
-    std::array<double, RIVEJÄ + 1> rivi{};
-    for (int i = 1; i <= RIVEJÄ; ++i) rivi[i] = Tulos(p[i]);
+    std::array<double, LISTAN_RIVEJÄ + 1> rivi{};
+    for (int i = 1; i <= LISTAN_RIVEJÄ; ++i) rivi[i] = Tulos(p[i]);
     const double u = Int(uusi);
     // A row at least as good as the result stays above it; an equal one too.
     auto yllä = [&](double r) { return pienempiParempi ? r <= u : r >= u; };
-    for (int k = 1; k <= RIVEJÄ + 1; ++k) {
+    for (int k = 1; k <= LISTAN_RIVEJÄ + 1; ++k) {
         bool sopii = true;
-        for (int i = 1; i <= RIVEJÄ; ++i) sopii = sopii && (i < k ? yllä(rivi[i]) : !yllä(rivi[i]));
+        for (int i = 1; i <= LISTAN_RIVEJÄ; ++i) sopii = sopii && (i < k ? yllä(rivi[i]) : !yllä(rivi[i]));
         if (sopii) return k;
     }
     // The rows are out of order around the result: no position is found.
@@ -162,7 +162,7 @@ void LaskeListat(Peli& peli) {
         paikka = ListanPaikka(t.p, TekstiLuvuksi(t.p[0]), lista.pienempiParempi);
         t.p0Tag = Str(paikka);
     });
-    if (paikka > RIVEJÄ) {
+    if (paikka > LISTAN_RIVEJÄ) {
         Ilmoita(peli, "Harmi, et päässyt Topten listalle");
         return;
     }
@@ -170,7 +170,7 @@ void LaskeListat(Peli& peli) {
         // Cancelling the prompt leaves an empty name in the row.
         t.n[0] = peli.kanavat.KehoteOtsikolla("Onneksi olkoon, pääsit Top 10 joukkoon. Kirjoita nimesi",
                                               "Top 10 Farmari", m.PelaajanNimi);
-        for (int i = RIVEJÄ; i > paikka; --i) {
+        for (int i = LISTAN_RIVEJÄ; i > paikka; --i) {
             t.n[i] = t.n[i - 1];
             t.p[i] = t.p[i - 1];
         }
@@ -204,7 +204,7 @@ void TyhjennäListat(Peli& peli) {
     if (!KysyKyllä(peli, "Olet tyhjentämässä ennätyslistoja!\n\nJatkamalla kaikki ennätykset menetetään\n\n      "
                          "Oletko asiasta täysin varma ?"))
         return;
-    std::vector<std::string> rivit(RIVEJÄ, "Testi");
+    std::vector<std::string> rivit(LISTAN_RIVEJÄ, "Testi");
     for (int tulos = 100; tulos >= 10; tulos -= 10) rivit.push_back(std::to_string(tulos));
     try {
         const auto temp = Tiedosto(peli, "temp.dat");
