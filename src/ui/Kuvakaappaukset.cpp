@@ -128,7 +128,7 @@ bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
     // No wage talks, the day's draw, number 20; the barn, the second picture, its loss and claim.
     for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
     tanhua::Sattumat(peli);
-    ok &= Tallenna(&w, kansio, "17-Sattuma.png");
+    ok &= Tallenna(&w, kansio, "30-Sattuma.png");
     w.uutiset()->Command1()->click();
 
     const std::string uhkaus = "Maksa suojeluraha, niin navettasi ei syty niin herkästi tuleen";
@@ -143,8 +143,8 @@ bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
         const QPixmap laatikko = w.message()->grab();
         maalari.drawPixmap((w.width() - laatikko.width()) / 2, (w.height() - laatikko.height()) / 2, laatikko);
     }
-    const bool tallennettu = kuva.save(kansio.filePath("18-Suojeluraha.png"));
-    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("18-Suojeluraha.png").toStdString().c_str());
+    const bool tallennettu = kuva.save(kansio.filePath("31-Suojeluraha.png"));
+    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("31-Suojeluraha.png").toStdString().c_str());
     w.message()->hide();
     w.uutiset()->Command1()->click();
     return ok && tallennettu;
@@ -435,7 +435,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.AvaaRuutu(w.hevostalli());
     VaihdaHinnasto(peli);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "23-Hevostalli.png");
+    ok &= Tallenna(&w, kansio, "32-Hevostalli.png");
     w.hevostalli()->Command1()->click();
 
     // The staff screen with both gauges: a well-paid staff, some of it on overtime; every job listed.
@@ -449,7 +449,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     YlityöPäälle(peli);
     ValitseTyöläinen(peli, Tallimestari);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "24-Tyovoima-mittarit.png");
+    ok &= Tallenna(&w, kansio, "33-Tyovoima-mittarit.png");
     w.työvoima()->Command1()->click();
     Aseta(peli.m.TähtiLukitus, true);
 
@@ -464,7 +464,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
         if (!kuvattu && tyyli == 1) {
             kuvattu = true;
             w.message()->Valmistele(teksti, tyyli);
-            ok &= TallennaKysymyksenKanssa(w, kansio, "25-Palkkaneuvottelu.png");
+            ok &= TallennaKysymyksenKanssa(w, kansio, "34-Palkkaneuvottelu.png");
         }
         return std::string(tyyli == 1 ? KYLLÄ : VASTATTU);
     };
@@ -479,19 +479,19 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     TallennaTilanne(peli, "Kesä1980");
     TallennaTilanne(peli, "Joulu");
     w.AvaaRuutu(w.tilanne());
-    ok &= Tallenna(&w, kansio, "26-Tilanne.png");
+    ok &= Tallenna(&w, kansio, "35-Tilanne.png");
     AvaaPaneeli(peli);
     ValitseTiedosto(peli, "Joulu.sav");
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "27-Tilanne-Tallenna.png");
+    ok &= Tallenna(&w, kansio, "36-Tilanne-Tallenna.png");
     SuljePaneeli(peli);
     LoppuJuttu(peli);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "28-Tarina.png");
+    ok &= Tallenna(&w, kansio, "37-Tarina.png");
     peli.tilanneruutu.Pisteet = 75;
     SuljeTarina(peli);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "29-Topten.png");
+    ok &= Tallenna(&w, kansio, "38-Topten.png");
     return ok ? 0 : 1;
 }
 
