@@ -19,9 +19,7 @@ namespace {
 Ohjain O(const Peli& peli, const QObject* w) { return LueRuudulta(peli, "Hevostalli", w->objectName().toStdString()); }
 
 QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
-    auto* n = new QPushButton(vanhempi);
-    n->setObjectName(nimi);
-    Teksturoi(peli, n, "nappi2.jpg", 11, 12);
+    QPushButton* n = AlaruudunNappi(peli, nimi, vanhempi);
     n->setMinimumHeight(34);
     return n;
 }

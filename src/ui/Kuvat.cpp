@@ -94,6 +94,13 @@ QLabel* Teksti(const QString& teksti, int koko, QWidget* vanhempi, bool lihava) 
     return l;
 }
 
+QPushButton* AlaruudunNappi(const Peli& peli, const QString& nimi, QWidget* vanhempi) {
+    auto* n = new QPushButton(vanhempi);
+    n->setObjectName(nimi);
+    Teksturoi(peli, n, "nappi2.jpg", 11, 12);
+    return n;
+}
+
 QFrame* Paneeli(QWidget* vanhempi, const char* nimi) {
     auto* f = new QFrame(vanhempi);
     f->setObjectName(nimi);

@@ -28,9 +28,7 @@ Ohjain O(const Peli& peli, const QObject* w) {
 }
 
 QPushButton* Nappi(const Peli& peli, const QString& nimi, QWidget* vanhempi, int leveys = 120) {
-    auto* n = new QPushButton(vanhempi);
-    n->setObjectName(nimi);
-    Teksturoi(peli, n, "nappi2.jpg", 11, 12);
+    QPushButton* n = AlaruudunNappi(peli, nimi, vanhempi);
     n->setMinimumSize(leveys, 32);
     return n;
 }
