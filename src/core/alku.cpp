@@ -217,6 +217,9 @@ void NollaaRuudut(Peli& peli) {
     peli.pankkiruutu = PankkiRuutuTila{};
     peli.tarvikeruutu = TarvikeRuutuTila{};
     peli.tilanneruutu = TilanneRuutuTila{};
+    peli.peltoruutu = PeltoRuutuTila{};
+    peli.kylvöruutu = KylvöRuutuTila{};
+    peli.nostoruutu = NostoRuutuTila{};
     peli.käynnissä = false;
 }
 

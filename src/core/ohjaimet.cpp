@@ -16,6 +16,8 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        PeltoruudunOhjaimet(l);
+        KylvöruudunOhjaimet(l);
         return l;
     }();
     return luettelo;

@@ -60,6 +60,8 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l);  // Rakennukset
 void TyövoimaruudunOhjaimet(Ohjainluettelo& l);  // Työvoima
 void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
+void PeltoruudunOhjaimet(Ohjainluettelo& l);     // Pellot
+void KylvöruudunOhjaimet(Ohjainluettelo& l);     // Kylvö and Nosto
 
 // A control by its written name: "Tanhua.Sää", or a member of an array as "Tanhua.TP_Kuva(1)".
 // Empty for a name no screen has, or an index outside the array.

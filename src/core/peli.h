@@ -10,6 +10,7 @@
 #include "../buildings/rakennusruutu.h"
 #include "../buildings/tarvikeruutu.h"
 #include "../finance/pankkiruutu.h"
+#include "../land/peltoruutu.h"
 #include "../market/tuoteruutu.h"
 #include "../storage/tallennus.h"
 #include "../workforce/työvoimaruutu.h"
@@ -93,12 +94,18 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    PeltoRuutuTila peltoruutu;        // the land screen's card, lot and forester's panel
+    KylvöRuutuTila kylvöruutu;        // the sowing plan and its sheet
+    NostoRuutuTila nostoruutu;        // the harvest estimate and its sheet
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened
     // The day's store load while a day runs: taken once, before the herd's output, and read by
     // every shift of the day, so goods made later today don't block today's work.
     std::optional<double> päivänKuorma;
+    // The season value S while the day's season block runs: the honey and berry chains add to it,
+    // and the grain of the fields reads it last.
+    std::optional<double> päivänKausiarvo;
 };
 
 }  // namespace tanhua

@@ -109,6 +109,8 @@ void SeuraavaPäivä(Peli& peli) {
         // The store gate: above its size, no staff work today (at exactly full they still work).
         [&] { if (työpäivä()) Metsänhakkuu(peli); },
         [&] { if (työpäivä()) Jalostus(peli, Saha); },
+        // The season value is worked out at the head of the season block and runs through it.
+        [&] { if (työpäivä() && kesä()) peli.päivänKausiarvo = Kausiarvo(m); },
         [&] { if (työpäivä() && kesä()) Jalostus(peli, Mehiläistarha); },
         [&] { if (työpäivä() && kesä()) Jalostus(peli, Kasvihuone); },
         [&] { if (työpäivä() && kesä()) Jalostus(peli, Marjatarha); },
@@ -134,6 +136,7 @@ void SeuraavaPäivä(Peli& peli) {
         [&] { PäiväKulut(peli); },
     });
     peli.päivänKuorma.reset();
+    peli.päivänKausiarvo.reset();
     // Only a day that reached its last step clears the failure count.
     if (loppuun) m.VikaLaskuri = 0;
 }

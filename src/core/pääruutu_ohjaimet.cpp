@@ -82,6 +82,10 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
             return Näkyvä(teksti, käytössä);
         });
     }
+    // The land screen's button, locked by the stars as the supplies' button is.
+    yksi("Command5", [](const Peli& p) {
+        return Näkyvä("Maa alueet", p.näkymä.PääruutuKäytössä && p.näkymä.Command5Käytössä);
+    });
 }
 
 }  // namespace tanhua

@@ -53,7 +53,8 @@ struct Ruutu {
 };
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
-                               {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"}};
+                               {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
+                               {"Pellot", "Tanhua.Command5"}};
 
 struct Poistuminen {
     const char* toiminto;
@@ -67,6 +68,7 @@ const Poistuminen POISTUMISET[] = {
     {"Työvoima.Takaisin", Aina},
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
+    {"Pellot.Sulje", Aina},
 };
 
 void Siirtymät(Toimintoluettelo& t) {
@@ -154,6 +156,7 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        MaidenToiminnot(t);
         Siirtymät(t);
         return t;
     }();
