@@ -8,6 +8,9 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Pellot.h"
+#include "Kylvö.h"
+#include "Nosto.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -39,6 +42,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
                                                           rakennukset_, pankki_, tarvikkeet_})
         pino_->addWidget(ruutu);
+    pellot_ = new Pellot(peli_, *this, pino_);
+    kylvö_ = new Kylvö(peli_, *this, pino_);
+    nosto_ = new Nosto(peli_, *this, pino_);
+    for (QWidget* ruutu : std::initializer_list<QWidget*>{pellot_, kylvö_, nosto_}) pino_->addWidget(ruutu);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -70,6 +77,19 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
+    tanhua_->AvaaPellot = [this] { AvaaRuutu(pellot_); };
+    // The land screen's two pictures lead on to the sowing and harvest screens, which come back to it.
+    auto alaruudulle = [this](QWidget* ruutu, const std::function<void()>& avaa) {
+        Toimi(avaa);
+        pino_->setCurrentWidget(ruutu);
+        Päivitä();
+    };
+    pellot_->AvaaKylvö = [this, alaruudulle] { alaruudulle(kylvö_, [this] { kylvö_->Avaa(); }); };
+    pellot_->AvaaNosto = [this, alaruudulle] { alaruudulle(nosto_, [this] { nosto_->Avaa(); }); };
+    kylvö_->Palaa = nosto_->Palaa = [this] {
+        pino_->setCurrentWidget(pellot_);
+        Päivitä();
+    };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -132,6 +152,12 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == pellot_) {
+        pellot_->Päivitä();
+    } else if (nyt == kylvö_) {
+        kylvö_->Päivitä();
+    } else if (nyt == nosto_) {
+        nosto_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -151,6 +177,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == pellot_) pellot_->Avaa();
         });
     });
     pino_->setCurrentWidget(ruutu);
@@ -199,7 +226,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_;
+           ruutu == tarvikkeet_ || ruutu == pellot_ || ruutu == kylvö_ || ruutu == nosto_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

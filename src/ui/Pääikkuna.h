@@ -23,6 +23,9 @@ class Työvoima;
 class Rakennukset;
 class Pankki;
 class Tarvikkeet;
+class Pellot;
+class Kylvö;
+class Nosto;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -58,6 +61,9 @@ public:
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
+    Pellot* pellot() const { return pellot_; }
+    Kylvö* kylvö() const { return kylvö_; }
+    Nosto* nosto() const { return nosto_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -87,6 +93,10 @@ private:
     Rakennukset* rakennukset_;
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
+    // The land screen and the sowing and harvest screens that open from its pictures.
+    Pellot* pellot_;
+    Kylvö* kylvö_;
+    Nosto* nosto_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

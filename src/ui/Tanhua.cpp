@@ -167,6 +167,14 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(command8_, &QPushButton::clicked, this, [this] { if (AvaaTyövoima) AvaaTyövoima(); });
     connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
     connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
+    // The land screen's button, locked by the stars as the supplies' button is.
+    command5_ = new QPushButton("Maa alueet", this);
+    command5_->setObjectName("Command5");
+    command5_->setToolTip("Metsä ja pelto omistukset");
+    Teksturoi(peli_, command5_, "nappi.jpg", 12, 14);
+    command5_->setMinimumSize(150, 40);
+    Ohje("Command5", command5_);
+    connect(command5_, &QPushButton::clicked, this, [this] { if (AvaaPellot) AvaaPellot(); });
 
     // Layout: information left, gauges right, list in the middle, buttons along the bottom.
     auto* ylä = new QHBoxLayout;
@@ -186,6 +194,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->setColumnStretch(3, 1);
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
+    ala->addWidget(command5_, 0, 3, Qt::AlignLeft);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -247,6 +256,7 @@ void Tanhua::Päivitä() {
     }};
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
+    Näytä(command5_, lue("Command5"));
     liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
     if (const Ohjain aste = lue("AsteLuku"); aste.väri)
         asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;")

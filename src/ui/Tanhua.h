@@ -48,6 +48,7 @@ public:
     QPushButton* Command6() const { return command6_; }
     QPushButton* Command8() const { return command8_; }
     QPushButton* Command9() const { return command9_; }
+    QPushButton* Command5() const { return command5_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
     QLabel* Rahaz() const { return rahaz_; }
@@ -57,6 +58,7 @@ public:
     // What the frame does for the buttons of the main screen.
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
+    std::function<void()> AvaaPellot;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
 
 protected:
@@ -74,6 +76,7 @@ private:
     QListWidget* lista_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
     std::string tausta_;
+    QPushButton* command5_;  // "Maa alueet"
 };
 
 }  // namespace tanhua::ui
