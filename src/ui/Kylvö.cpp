@@ -94,7 +94,7 @@ Kylvö::Kylvö(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     keski->addWidget(akkuna_);
     keski->addStretch();
     auto* pää = new QHBoxLayout(this);
-    pää->setContentsMargins(16, 60, 16, 12);
+    pää->setContentsMargins(16, 100, 16, 12);  // room for the money plate above
     pää->addWidget(kasvit, 3);
     pää->addLayout(keski, 3);
     pää->addWidget(arkki, 3);

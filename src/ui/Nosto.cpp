@@ -72,7 +72,7 @@ Nosto::Nosto(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanhem
     v->addWidget(arkki_, 1);
 
     auto* pää = new QHBoxLayout(this);
-    pää->setContentsMargins(16, 60, 16, 12);
+    pää->setContentsMargins(16, 100, 16, 12);  // room for the money plate above
     pää->addWidget(arvio, 3);
     pää->addWidget(sivu, 2);
 }

@@ -52,7 +52,7 @@ Pellot::Pellot(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     QFrame* maat = Paneeli(this, "maat");
     auto* g = new QGridLayout(maat);
     for (int k = 0; k < 4; ++k) {
-        maat_[k] = Kuva(("Image" + std::to_string(k)).c_str(), maat, 150);
+        maat_[k] = Kuva(("Image" + std::to_string(k)).c_str(), maat, 180);
         g->addWidget(maat_[k], (k / 2) * 2, k % 2, Qt::AlignCenter);
         g->addWidget(Teksti(Sv(MAAKORTIT[k].otsikko), 12, maat), (k / 2) * 2 + 1, k % 2, Qt::AlignCenter);
     }
@@ -70,6 +70,7 @@ Pellot::Pellot(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     akkuna_ = Korttipaneeli();
     metsuriValikko_ = MetsuriPaneeli();
     auto* oikea = new QVBoxLayout;
+    oikea->addSpacing(40);  // the money plate reaches below the title row
     oikea->addWidget(akkuna_);
     oikea->addWidget(metsuriValikko_);
     oikea->addStretch();
@@ -154,6 +155,7 @@ QFrame* Pellot::MetsuriPaneeli() {
     metsuriInfo_ = Teksti("", 10, p, false);
     metsuriInfo_->setObjectName("MetsuriInfo");
     metsuriInfo_->setWordWrap(true);
+    metsuriInfo_->setMinimumHeight(80);
     metsitä_ = new QCheckBox(Sv(peltoteksti::Metsitä), p);
     metsitä_->setObjectName("Metsitä");
     metsitä_->setStyleSheet("color: #24160a; font-size: 11pt;");
