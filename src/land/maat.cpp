@@ -39,7 +39,7 @@ void Metsänhakkuu(Peli& peli) {
     Muuttujat& m = peli.m;
     if (m.Työ[Metsuri] <= 0) return;
     if (m.Metsä >= 0 && (!m.Viikonloppu || m.Ylityö[Metsuri]))
-        for (Long i = 0; i < m.Työ[Metsuri]; ++i) Hakkuukierros(peli);
+        for (long long i = 0; i < m.Työ[Metsuri]; ++i) Hakkuukierros(peli);
     // On any day with a forester: a felled hectare turns to waste land and the next one starts.
     if (m.Metsä > 0 && m.MetsääJäljellä < 1) {
         Aseta(m.MetsääJäljellä, 100);
@@ -100,9 +100,9 @@ void Viljankasvu(Peli& peli) {
     }
     // One pass more than the hectares, one draw each.
     const double kerroin = Int(D * 0.1 + S);
-    const Long kierroksia = CLng(m.Pelto);
+    const long long kierroksia = CLng(m.Pelto);  // counted wider, so the last pass can't overflow the count
     double G = 0;
-    for (Long i = 0; i <= kierroksia; ++i) G += kerroin * peli.arvonta.r() * 0.1;
+    for (long long i = 0; i <= kierroksia; ++i) G += kerroin * peli.arvonta.r() * 0.1;
     Lisää(m.Var[Vilja], Int(G));
     Lisää(m.ViljaaTuotettu, Round(G));
 }
