@@ -1283,3 +1283,18 @@ def makers_plate():
     d.text((190, 40), "TANHUA", font=font(34, serif=True), fill=(70, 30, 14), anchor="mm")
     d.text((190, 76), "suomalainen maatilapeli", font=font(14, bold=False), fill=(60, 34, 18), anchor="mm")
     return img
+
+
+@pic("Kuvat/PlayerLogo.gif")
+def player_logo():
+    """The music player's badge on the main screen: an accordion with notes rising from it on a round
+    wooden plate."""
+    c = Canvas(64, 64)
+    gid, d = S.rad_grad([(0, "#f3d9a4"), (1, "#b9854a")], cx=0.45, cy=0.4, r=0.65)
+    c.add(d, '<circle cx="32" cy="32" r="30" fill="#6b3a1f"/>',
+          f'<circle cx="32" cy="32" r="27" fill="url(#{gid})"/>',
+          '<circle cx="32" cy="32" r="27" fill="none" stroke="#fff4d6" stroke-opacity="0.6" stroke-width="1"/>')
+    c.add(icon("accordion", 6, 20, 36), icon("musical-notes", 32, 6, 26))
+    img = c.render()
+    img.putalpha(img.split()[3].point(lambda v: 255 if v >= 110 else 0))
+    return img

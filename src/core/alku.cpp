@@ -10,6 +10,7 @@
 #include "päivä.h"
 #include "taulut/taustat.h"
 #include "peli.h"
+#include "musiikki.h"
 #include "perushinnat.h"
 #include "pääruutu.h"
 #include "sää.h"
@@ -92,6 +93,7 @@ void UusiTilanneLataus(Peli& peli) {
     Muuttujat& m = peli.m;
     AlkuRuutu& a = peli.alku;
     a.palkki = 50;
+    KäynnistäSoitinKerran(peli);
     Vartioitu(peli, paikka::AlkuTimer1, {
         [&] {
             Texti(peli, "Ladataan alkumääreitä");
@@ -165,6 +167,7 @@ void UusiTilanneLataus(Peli& peli) {
         [&] {
             Tikki(peli, 120);
             Texti(peli, "Avataan uusi tilanne");
+            AloitaMusiikki(peli);
         },
         [&] {
             a.LatausNäkyvissä = false;
@@ -181,6 +184,7 @@ bool JatkaTilannetta(Peli& peli) {
     Muuttujat& m = peli.m;
     AlkuRuutu& a = peli.alku;
     a.LatausNäkyvissä = true;
+    KäynnistäSoitinKerran(peli);
     AsetaPalkatJaLihat(m);
     Texti(peli, "Jatketaan edellistä..");
     Aseta(m.PakkaamoMax, 1000);
@@ -189,6 +193,7 @@ bool JatkaTilannetta(Peli& peli) {
     const bool avattu = AvaaTilanne(peli, a.Viime) && m.VikaLaskuri == 0;
     if (avattu) {
         PerusHinnat(peli);
+        AloitaMusiikki(peli);
         AsetaVuodenaika(m);
         Keli(peli);
         PäivitäVakuutus(peli);
@@ -220,6 +225,7 @@ void NollaaRuudut(Peli& peli) {
     peli.peltoruutu = PeltoRuutuTila{};
     peli.kylvöruutu = KylvöRuutuTila{};
     peli.nostoruutu = NostoRuutuTila{};
+    peli.soitin.Näkyvissä = false;
     peli.käynnissä = false;
 }
 

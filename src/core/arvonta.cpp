@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "laskenta.h"
+
 namespace tanhua {
 
 double Arvonta::Generaattori() {
@@ -24,7 +26,10 @@ double Arvonta::r(std::source_location paikka) {
 }
 
 long long Arvonta::D(double x, std::source_location paikka) {
-    return static_cast<long long>(std::floor(x * r(paikka)));
+    const double arvo = std::floor(x * r(paikka));
+    // A draw too large for a whole number is an overflow, as storing it would be.
+    if (!(arvo >= -9.2e18 && arvo <= 9.2e18)) NostaVika(VIKA_YLIVUOTO);
+    return static_cast<long long>(arvo);
 }
 
 long long Arvonta::U(long long a, long long b, std::source_location paikka) {

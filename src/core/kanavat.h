@@ -61,6 +61,13 @@ public:
     virtual void Ääni(const std::string& nimi) = 0;
     // Whether a wave output device is there at all.
     virtual bool ÄäniLaite() { return true; }
+    // The music player: opens it (a failure is thrown as a Vika with its number and text), plays a
+    // song file once in the background (throws when it can't), stops the song, closes the player.
+    // A song's end comes back as DirectXEvent8_DXCallback on the game's own thread.
+    virtual void MidiAlusta() {}
+    virtual void MidiSoita(const std::string& /*tiedosto*/) {}
+    virtual void MidiPysäytä() {}
+    virtual void MidiLopeta() {}
     // The failure box "VikaTila" with Yes and No; true is Yes (go on).
     virtual bool Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) = 0;
     // The month end's snapshot of the screen, kept for the statistics screen.

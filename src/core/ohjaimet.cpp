@@ -18,6 +18,7 @@ const Ohjainluettelo& Ohjaimet() {
         PankkiruudunOhjaimet(l);
         PeltoruudunOhjaimet(l);
         KylvöruudunOhjaimet(l);
+        SoittimenOhjaimet(l);
         return l;
     }();
     return luettelo;

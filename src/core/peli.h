@@ -17,6 +17,7 @@
 #include "arvonta.h"
 #include "kanavat.h"
 #include "pääruutu.h"
+#include "soitin.h"
 #include "state.h"
 
 namespace tanhua {
@@ -97,6 +98,7 @@ struct Peli {
     PeltoRuutuTila peltoruutu;        // the land screen's card, lot and forester's panel
     KylvöRuutuTila kylvöruutu;        // the sowing plan and its sheet
     NostoRuutuTila nostoruutu;        // the harvest estimate and its sheet
+    Soitin soitin;                    // the songs and the music player's panel
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

@@ -4,10 +4,12 @@
 #include <map>
 
 #include "../animals/eläimet.h"
+#include "musiikki.h"
 #include "päivä.h"
 #include "sää.h"
 #include "peli.h"
 #include "viestit.h"
+#include "vikatila.h"
 
 namespace tanhua {
 
@@ -82,7 +84,19 @@ bool LopetaKysymys(Peli& peli) {
     return KysyKyllä(peli, "Oletko varma että lopetat pelin suoraan ilman eläkkeelle siirtymistä?");
 }
 
-void Lopeta(Peli& peli) { peli.kanavat.Loppu(); }
+void Lopeta(Peli& peli) {
+    // The music is closed on the way out; a failure there still lets the program end.
+    OmallaLaatikolla(
+        peli, "Moduulissa. Lopettaessa tanhua peliä.", [&] { LopetaMidi(peli); },
+        [](const Vika&) {
+            return std::string(
+                "Tanhua ei ehkä kyennyt sammuttamaan oikein kaikkia sen osia, kun olet jatkanut ja tanhua on "
+                "sammutettu tarkasta yhdistelmällä (ctrl + alt + del) jäikö tanhuasta mitään sovelluksia auki. "
+                "Todennäköisesti peli osasi kuitenkin sammuttaa itse kaikki sovellukset. Jos sovelluksia kuitenkin "
+                "on jäänyt auki, ilmoita asiasta pelin tekijälle.");
+        });
+    peli.kanavat.Loppu();
+}
 
 const std::string& Ohjeteksti(const std::string& kontrolli) {
     static const std::map<std::string, std::string> tekstit{

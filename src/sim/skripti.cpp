@@ -24,6 +24,9 @@ namespace tanhua {
 namespace {
 [[noreturn]] void Virhe(const std::string& syy) { throw std::runtime_error(syy); }
 
+// The day's weather picture is no value of the record but the main screen's; set and print reach it.
+constexpr const char* SÄÄKUVA = "SääKuva";
+
 }  // namespace
 
 void Ohita() { throw Ohitettu{}; }
@@ -175,6 +178,12 @@ void Ajuri::VaadiTila(const std::string& komento) const {
 void Ajuri::Aseta(const std::vector<std::string>& sanat) {
     if (sanat.size() != 3) Virhe("set takes NAME VALUE");
     Peli& peli = *peli_;
+    // The day's weather picture, as Keli left it: -1 (none of its own) to 9 (hail).
+    if (sanat[1] == SÄÄKUVA) {
+        VaadiTila("set " + sanat[1]);
+        peli.näkymä.SääKuva = static_cast<int>(Luku(sanat[2], SÄÄKUVA, -1, 9));
+        return;
+    }
     const auto kenttä = EtsiKenttä(peli, sanat[1]);
     if (!kenttä) Virhe("unknown value '" + sanat[1] + "'");
     // The installation's settings hold for the run only; every other value is the farm's.
@@ -190,6 +199,10 @@ void Ajuri::Tulosta(const std::vector<std::string>& sanat, std::ostream& ulos) {
         // A control of a screen first, as the player sees it; then a value of the record.
         if (const auto ohjain = LueOhjain(peli, sanat[i])) {
             ulos << sanat[i] << '=' << OhjainTekstinä(*ohjain) << '\n';
+            continue;
+        }
+        if (sanat[i] == SÄÄKUVA) {
+            ulos << sanat[i] << '=' << peli.näkymä.SääKuva << '\n';
             continue;
         }
         const auto kenttä = EtsiKenttä(peli, sanat[i]);

@@ -1,6 +1,7 @@
 // Recording channels of the headless runner and the tests.
 #include "tallentava.h"
 
+#include <filesystem>
 
 namespace tanhua {
 
@@ -54,6 +55,12 @@ std::string TallentavatKanavat::Kehote(const std::string& kysymys, const std::st
 }
 
 void TallentavatKanavat::Ääni(const std::string& nimi) { tapahtumat.push_back("ÄÄNI|" + nimi); }
+
+void TallentavatKanavat::MidiSoita(const std::string& tiedosto) {
+    tapahtumat.push_back("MIDI|soita|" + std::filesystem::path(tiedosto).filename().string());
+}
+
+void TallentavatKanavat::MidiPysäytä() { tapahtumat.push_back("MIDI|pysäytä"); }
 
 bool TallentavatKanavat::Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) {
     viimeisinVikateksti = teksti;

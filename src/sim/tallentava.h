@@ -21,6 +21,9 @@ public:
     void Laatikko(const std::string& teksti) override;
     std::string Kehote(const std::string& kysymys, const std::string& oletus) override;
     void Ääni(const std::string& nimi) override;
+    // The runner's player is silent and always stands; a song ends only when the script says so.
+    void MidiSoita(const std::string& tiedosto) override;
+    void MidiPysäytä() override;
     bool Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) override;
 
     // Answers given in advance, taken one a question.

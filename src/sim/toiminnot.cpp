@@ -157,6 +157,7 @@ const Toimintoluettelo& Toiminnot() {
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
         MaidenToiminnot(t);
+        SoittimenToiminnot(t);
         Siirtymät(t);
         return t;
     }();

@@ -22,6 +22,8 @@
 #include "workforce/työvoima.h"
 #include "core/kuukausi.h"
 #include "core/päivä.h"
+#include "core/viestit.h"
+#include "events/sattumat.h"
 #include "market/markkinat.h"
 #include "market/myynti.h"
 #include "storage/tiedostot.h"
@@ -30,6 +32,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QPainter>
 #include <QTemporaryDir>
 // std
 #include <algorithm>
@@ -84,6 +87,38 @@ bool Tallenna(QWidget* w, const QDir& kansio, const char* nimi) {
     std::printf("%s %s\n", ok ? "wrote" : "FAILED", kansio.filePath(nimi).toStdString().c_str());
     return ok;
 }
+bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
+    Pääikkuna& w = n.ikkuna;
+    Peli& peli = n.peli;
+    bool ok = true;
+    Aseta(peli.m.Koko_Navetta, std::max<Single>(peli.m.Koko_Navetta, 60));
+    // No wage talks, the day's draw, number 20; the barn, the second picture, its loss and claim.
+    for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
+    tanhua::Sattumat(peli);
+    ok &= Tallenna(&w, kansio, "17-Sattuma.png");
+    w.uutiset()->Command1()->click();
+
+    const std::string uhkaus = "Maksa suojeluraha, niin navettasi ei syty niin herkästi tuleen";
+    Kerro(peli, "Kuvat/sattumat/alamaailma.jpg", uhkaus);
+    w.message()->Valmistele(uhkaus + "\nMaksatko " + Str(1480.0f) + " ?", 1);
+    w.message()->show();
+    QApplication::processEvents();
+    // The box is a window of its own: it is drawn over the middle of the main window, as it opens.
+    QPixmap kuva = w.grab();
+    {
+        QPainter maalari(&kuva);
+        const QPixmap laatikko = w.message()->grab();
+        maalari.drawPixmap((w.width() - laatikko.width()) / 2, (w.height() - laatikko.height()) / 2, laatikko);
+    }
+    const bool tallennettu = kuva.save(kansio.filePath("18-Suojeluraha.png"));
+    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("18-Suojeluraha.png").toStdString().c_str());
+    w.message()->hide();
+    w.uutiset()->Command1()->click();
+    return ok && tallennettu;
+}
+}  // namespace
+
+namespace {
 // The land screen's pictures (below).
 bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio);
 }  // namespace
@@ -121,6 +156,17 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "02-Tanhua.png");
     Aseta(peli.m.Var[Maito], 0);
+
+    // The music player's panel out over the main screen with its playlist; then the logo's still.
+    w.AvaaSoitin();
+    ok &= Tallenna(&w, kansio, "18-Player.png");
+    w.PiilotaSoitin();
+    w.pohja()->setGeometry(w.rect());
+    w.pohja()->NäytäKuvat();
+    w.pohja()->show();
+    w.pohja()->raise();
+    ok &= Tallenna(&w, kansio, "19-Pohja-logo.png");
+    w.pohja()->hide();
 
     w.AvaaRuutu(w.eläimet());
     ValitseEläin(peli, KorttiNimellä("Lehmä"));
@@ -211,6 +257,10 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     vika.show();
     ok &= Tallenna(&vika, kansio, "12-VikaTila.png");
 
+    // The day's events: a barn fire with its line in the list, then the caller's demand with the
+    // question over it.
+    vika.hide();
+    ok &= KuvaaSattumat(n, kansio);
     ok &= Maakuvat(w, peli, kansio);
 
     // The settings tool beside the game, on the same data folder.
@@ -221,7 +271,56 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     return ok ? 0 : 1;
 }
 
-// The land screen with a field card and its manure picture, the forester's panel, and a sowing plan.
+namespace {
+// The draws a day would take before its events, found by playing the day on a copy of the farm and
+// the generator and then putting both back.
+std::vector<double> DrawsBeforeTheEvents(Peli& peli) {
+    const Muuttujat farm = peli.m;
+    const Näkymä view = peli.näkymä;
+    const Arvonta draws = peli.arvonta;
+    std::vector<double> before;
+    bool reached = false;
+    peli.arvonta.seuranta = [&](double r, const std::source_location& where) {
+        if (std::string_view(where.file_name()).find("events/") != std::string_view::npos) reached = true;
+        if (!reached) before.push_back(r);
+    };
+    tanhua::SeuraavaPäivä(peli);
+    peli.m = farm;
+    peli.näkymä = view;
+    peli.arvonta = draws;
+    return before;
+}
+
+// Presses of "Seuraava päivä" on which a barn fire opens the news window with its picture.
+void MittaaSattumat(Näyttämö& n) {
+    Peli& peli = n.peli;
+    std::vector<double> ajat;
+    QElapsedTimer kello;
+    int paloja = 0;
+    while (ajat.size() < 100) {
+        if (peli.näkymä.RaporttiAuki) n.ikkuna.raportti()->Command1()->click();
+        if (peli.m.Päivä < 2 || peli.m.Päivä > 28) {
+            n.ikkuna.SeuraavaPäivä();
+            continue;
+        }
+        for (double r : DrawsBeforeTheEvents(peli)) peli.arvonta.Jonoon(r);
+        // No wage talks, the day's draw, number 20, the barn, its picture, loss and claim.
+        for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
+        kello.start();
+        n.ikkuna.SeuraavaPäivä();
+        n.ikkuna.repaint();
+        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+        if (n.ikkuna.uutiset()->isVisible() && peli.näkymä.IkkunaKuva == "Kuvat/sattumat/tulipalo2.jpg") ++paloja;
+        peli.arvonta.TyhjennäJono();
+        Aseta(peli.m.Koko_Navetta, 3000);
+    }
+    std::sort(ajat.begin(), ajat.end());
+    std::printf("Seuraava päivä with a barn fire in the news window, %zu presses (%d fires shown):\n", ajat.size(), paloja);
+    std::printf("  median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", ajat[ajat.size() / 2],
+                ajat[ajat.size() * 95 / 100], ajat.back());
+}
+}  // namespace
+
 namespace {
 bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio) {
     bool ok = true;
@@ -238,12 +337,12 @@ bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio) {
     ValitseMaa(peli, MaaPelto);
     plus(peli);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "18-Pellot.png");
+    ok &= Tallenna(&w, kansio, "20-Pellot.png");
     PellotEsc(peli);
     AvaaMetsuriValikko(peli);
     AsetaMetsitä(peli, true);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "19-Pellot-Metsuri.png");
+    ok &= Tallenna(&w, kansio, "21-Pellot-Metsuri.png");
     PellotEsc(peli);
     // The sowing screen is closed to play; the picture is taken of it all the same.
     AvaaKylvö(peli);
@@ -257,7 +356,7 @@ bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio) {
     AsetaMyrkytetään(peli, true);
     w.pino()->setCurrentWidget(w.kylvö());
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "20-Kylvo.png");
+    ok &= Tallenna(&w, kansio, "22-Kylvo.png");
     PeruutaKylvö(peli);
     w.pino()->setCurrentWidget(w.pellot());
     w.pellot()->Command1()->click();
@@ -331,6 +430,7 @@ int MittaaPäivä(const Kansiot& kansiot) {
     std::printf("Seuraava päivä with repaint, 360 presses on a farm of 1000 adult animals (%.0f at the end):\n", Navettakuorma(m));
     std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
                 ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
+    MittaaSattumat(n);
     return MittaaMaat(kansiot);
 }
 

@@ -11,6 +11,8 @@
 #include "Pellot.h"
 #include "Kylvö.h"
 #include "Nosto.h"
+#include "Player.h"
+#include "core/musiikki.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -20,6 +22,8 @@
 #include "core/viestit.h"
 // Qt
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <QThread>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -50,6 +54,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
     message_ = new Message(peli_, this);
+    pohja_ = new Pohja(peli_, this);
 
     alku_->Aloitettu = [this] {
         LataaKursorit();
@@ -71,6 +76,13 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->SeuraavaPäivä = [this] { SeuraavaPäivä(); };
     tanhua_->Lopeta = [this] { Lopeta(); };
     tanhua_->NäytäTähti = [this](int tähti) { Toimi([this, tähti] { tanhua::NäytäTähti(peli_, tähti); }); };
+    // The music player: its badge opens the panel, whose buttons run the player's rules.
+    tanhua_->AvaaSoitin = [this] { AvaaSoitin(); };
+    Player* soitin = tanhua_->player();
+    soitin->Arvo = [this] { Toimi([this] { SoitinArvo(peli_); }); };
+    soitin->Seuraava = [this] { Toimi([this] { SoitinSeuraava(peli_); }); };
+    soitin->Stop = [this] { Toimi([this] { SoitinStop(peli_); }); };
+    soitin->Piilota = [this] { PiilotaSoitin(); };
     tanhua_->AvaaEläimet = [this] { AvaaRuutu(eläimet_); };
     tanhua_->AvaaTuotteet = [this] { AvaaRuutu(tuotteet_); };
     tanhua_->AvaaTyövoima = [this] { AvaaRuutu(työvoima_); };
@@ -120,6 +132,50 @@ void Pääikkuna::LataaKursorit() {
     if (!peli_.asetukset.Kursorit) return;
     const QPixmap talikko = KuvaJosOn(peli_, "Kuvat/talikko.ico");
     if (!talikko.isNull()) setCursor(QCursor(talikko.scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation), 0, 0));
+}
+
+void Pääikkuna::NäytäLogo() {
+    pohja_->setGeometry(rect());
+    pohja_->Logo();
+}
+
+void Pääikkuna::KappaleLoppui() { Toimi([this] { DirectXEvent8_DXCallback(peli_, 1); }); }
+
+void Pääikkuna::AvaaSoitin() {
+    Player* soitin = tanhua_->player();
+    std::vector<int> askeleet;
+    Toimi([&] { askeleet = tanhua::AvaaSoitin(peli_, tanhua_->height()); });
+    if (!askeleet.empty()) {
+        soitin->move(tanhua_->width() / 3, askeleet.front());
+        soitin->show();
+        soitin->raise();
+        soitin->Liuku(askeleet);
+    }
+    soitin->raise();
+    Päivitä();
+}
+
+void Pääikkuna::PiilotaSoitin() {
+    Player* soitin = tanhua_->player();
+    std::vector<int> askeleet;
+    Toimi([&] { askeleet = tanhua::PiilotaSoitin(peli_, soitin->y()); });
+    soitin->Liuku(askeleet);
+    Päivitä();
+    PalautaKohdistus(nullptr);
+}
+
+void Pääikkuna::Taita(QWidget* lomake, const Taitto& taitto) {
+    const QRect koko = lomake->geometry();
+    for (const TaitonKierros& k : taitto.kierrokset) {
+        lomake->setGeometry(koko.x(), k.yläreuna, koko.width(), k.korkeus);
+        lomake->repaint();
+        if (taitto.nukkuMs > 0) {
+            QThread::msleep(static_cast<unsigned long>(taitto.nukkuMs));
+            QCoreApplication::processEvents();
+        } else {
+            for (int i = 0; i < taitto.tapahtumakierroksia; ++i) QCoreApplication::processEvents();
+        }
+    }
 }
 
 void Pääikkuna::Käynnistä() {
@@ -180,8 +236,19 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == pellot_) pellot_->Avaa();
         });
     });
+    // The main form folds to its middle line and stays small; the screen opens from it; the main
+    // form gets its size back (PalautaKoko) while hidden.
+    const QRect sivu = pino_->currentWidget()->geometry();
+    tanhua_->setEnabled(false);
+    Taita(tanhua_, KuvanPienennys(peli_, sivu.height(), sivu.y(), Lomake::Pääruutu));
     pino_->setCurrentWidget(ruutu);
     Päivitä();
+    ruutu->setEnabled(false);
+    Taita(ruutu, KuvanSuurennus(peli_, sivu.height(), sivu.y(), Lomake::Alaruutu));
+    ruutu->setGeometry(sivu);
+    ruutu->setEnabled(true);
+    tanhua_->setGeometry(sivu);
+    tanhua_->setEnabled(peli_.näkymä.PääruutuKäytössä);
     AsetteleKyltti();
 }
 
@@ -192,7 +259,23 @@ void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
 }
 
 void Pääikkuna::PalaaPääruutuun() {
+    // A screen folds away to its middle line; the main form then opens from it.
+    QWidget* ruutu = pino_->currentWidget();
+    const QRect sivu = ruutu->geometry();
+    const bool taitto = OnAlaruutu(ruutu);
+    if (taitto) {
+        ruutu->setEnabled(false);
+        Taita(ruutu, KuvanPienennys(peli_, sivu.height(), sivu.y(), Lomake::Alaruutu));
+        ruutu->setGeometry(sivu);
+        ruutu->setEnabled(true);
+    }
     pino_->setCurrentWidget(tanhua_);
+    if (taitto) {
+        kyltti_->hide();
+        tanhua_->setEnabled(false);
+        Taita(tanhua_, KuvanSuurennus(peli_, sivu.height(), sivu.y(), Lomake::Pääruutu));
+        tanhua_->setGeometry(sivu);
+    }
     Toimi([this] { tanhua::PalaaPääruutuun(peli_); });
     PalautaKohdistus(nullptr);
 }

@@ -4,11 +4,13 @@
 // own
 #include "Alku.h"
 #include "Message.h"
+#include "Pohja.h"
 #include "RahaKyltti.h"
 #include "Raportti.h"
 #include "Tanhua.h"
 #include "ikkuna.h"
 #include "core/peli.h"
+#include "core/taitto.h"
 // Qt
 #include <QApplication>
 #include <QMainWindow>
@@ -46,6 +48,13 @@ public:
     void PalautaKohdistus(QWidget* ennen);
     void SeuraavaPäivä();
     void Lopeta();
+    // The logo sequence of the program's start, on the backdrop.
+    void NäytäLogo();
+    // The music player's notice that a song has played to its end.
+    void KappaleLoppui();
+    // The music player's panel comes out from its badge, or slides away.
+    void AvaaSoitin();
+    void PiilotaSoitin();
     // "Pörssikurssit": the market report over the bank, which goes back to the bank when closed.
     void NäytäPörssiraportti();
 
@@ -55,6 +64,7 @@ public:
     ikkuna* uutiset() const { return uutiset_; }
     RahaKyltti* rahaKyltti() const { return kyltti_; }
     Message* message() const { return message_; }
+    Pohja* pohja() const { return pohja_; }
     Eläimet* eläimet() const { return eläimet_; }
     Tuotteet* tuotteet() const { return tuotteet_; }
     Työvoima* työvoima() const { return työvoima_; }
@@ -81,6 +91,8 @@ private:
     void AsetteleKyltti();
     bool OnAlaruutu(QWidget* ruutu) const;
     void LataaKursorit();
+    // A screen folding to its middle line (or opening from it) by the rounds the rules give.
+    void Taita(QWidget* lomake, const Taitto& taitto);
 
     Peli& peli_;
     QStackedWidget* pino_;
@@ -100,6 +112,7 @@ private:
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;
+    Pohja* pohja_;
 };
 
 }  // namespace tanhua::ui

@@ -57,6 +57,20 @@ void QtKanavat::Ääni(const std::string& nimi) { soitin_.Soita(nimi); }
 
 bool QtKanavat::ÄäniLaite() { return soitin_.Laite(); }
 
+void QtKanavat::MidiAlusta() {
+    soitin_.AvaaMidi();
+    // A song's end reaches the game on the window's thread, as the player's notice.
+    soitin_.KappaleLoppui = [this] {
+        if (ikkuna_) ikkuna_->KappaleLoppui();
+    };
+}
+
+void QtKanavat::MidiSoita(const std::string& tiedosto) { soitin_.SoitaMidi(tiedosto); }
+
+void QtKanavat::MidiPysäytä() { soitin_.PysäytäMidi(); }
+
+void QtKanavat::MidiLopeta() { soitin_.SuljeMidi(); }
+
 bool QtKanavat::Vikalaatikko(const std::string&, int, const std::string& teksti) {
     QMessageBox laatikko(QMessageBox::Critical, "VikaTila", QString::fromStdString(teksti),
                          QMessageBox::Yes | QMessageBox::No, ikkuna_);

@@ -24,6 +24,10 @@ public:
     std::string Kehote(const std::string& kysymys, const std::string& oletus) override;
     void Ääni(const std::string& nimi) override;
     bool ÄäniLaite() override;
+    void MidiAlusta() override;
+    void MidiSoita(const std::string& tiedosto) override;
+    void MidiPysäytä() override;
+    void MidiLopeta() override;
     bool Vikalaatikko(const std::string& paikka, int numero, const std::string& teksti) override;
     void Lataus(const std::string& texti, int palkki) override;
     void Kuvakaappaus() override;

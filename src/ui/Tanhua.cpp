@@ -2,6 +2,7 @@
 #include "Tanhua.h"
 
 // own
+#include "Player.h"
 #include "core/pääruutu.h"
 #include "core/sää.h"
 // Qt
@@ -201,6 +202,14 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     pää->addLayout(keski, 1);
     pää->addWidget(ohje_);
     pää->addLayout(ala);
+
+    // The music player's badge beside the stars; its panel comes out over the screen.
+    playerLogo_ = new QLabel(this);
+    playerLogo_->setObjectName("PlayerLogo");
+    playerLogo_->setCursor(Qt::PointingHandCursor);
+    playerLogo_->installEventFilter(this);
+    ylä->insertWidget(3, playerLogo_, 0, Qt::AlignTop);
+    player_ = new Player(peli_, this);
 }
 
 void Tanhua::Ohje(const char* kontrolli, QWidget* w) {
@@ -215,6 +224,10 @@ bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
             peli_.näkymä.Ohje = Ohjeteksti(kontrolli.toString().toStdString());
             ohje_->setText(QString::fromStdString(peli_.näkymä.Ohje));
         }
+    }
+    if (tapahtuma->type() == QEvent::MouseButtonPress && kohde == playerLogo_) {
+        if (AvaaSoitin && playerLogo_->isEnabled()) AvaaSoitin();
+        return true;
     }
     if (tapahtuma->type() == QEvent::MouseButtonPress && kohde->property("tähti").isValid()) {
         if (NäytäTähti) NäytäTähti(kohde->property("tähti").toInt());
@@ -279,6 +292,10 @@ void Tanhua::Päivitä() {
     lista_->setVisible(lue("Lista").näkyvissä);
     if (lista_->count() > 0) lista_->setCurrentRow(lista_->count() - 1);
     Näytä(ohje_, lue("Ohje"));
+    const Ohjain logo = lue("PlayerLogo");
+    NäytäKuva(peli_, playerLogo_, "Kuvat/", logo, 48);
+    playerLogo_->setEnabled(logo.käytössä);
+    player_->Päivitä();
 }
 
 }  // namespace tanhua::ui

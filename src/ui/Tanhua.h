@@ -54,12 +54,15 @@ public:
     QLabel* Rahaz() const { return rahaz_; }
     QListWidget* Lista() const { return lista_; }
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
+    QLabel* PlayerLogo() const { return playerLogo_; }
+    class Player* player() const { return player_; }
 
     // What the frame does for the buttons of the main screen.
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
     std::function<void()> AvaaPellot;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
+    std::function<void()> AvaaSoitin;     // a click on the music player's badge
 
 protected:
     void keyPressEvent(QKeyEvent* tapahtuma) override;
@@ -77,6 +80,8 @@ private:
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
     std::string tausta_;
     QPushButton* command5_;  // "Maa alueet"
+    QLabel* playerLogo_;
+    class Player* player_;
 };
 
 }  // namespace tanhua::ui

@@ -5,6 +5,9 @@
 #include "Kuvat.h"
 // Qt
 #include <QVBoxLayout>
+// std
+#include <algorithm>
+#include <filesystem>
 
 namespace tanhua::ui {
 
@@ -33,16 +36,33 @@ ikkuna::ikkuna(Peli& peli, QWidget* vanhempi) : QFrame(vanhempi), peli_(peli) {
     hide();
 }
 
-void ikkuna::Näytä(const std::string& kuva, const std::string& teksti) {
+void ikkuna::AsetaKuva(const std::string& kuva) {
     // An event without a picture of its own shows the blank picture.
     const QPixmap p = kuva.empty() ? QPixmap() : Kuva(peli_, kuva);
     kuva_->setPixmap(p.isNull() ? QPixmap() : p.scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    kuva_->setProperty("tiedosto", Q(std::filesystem::path(kuva).filename().string()));
+    näytettyKuva_ = kuva;
+}
+
+void ikkuna::Näytä(const std::string& kuva, const std::string& teksti) {
+    AsetaKuva(kuva);
     tapahtuma_->setText(QString::fromStdString(teksti));
+    // A long text wraps inside the window, which grows to hold it rather than cut it off.
     const QWidget* alla = parentWidget();
-    resize(480, 460);
+    const int leveys = 480;
+    const int korkeus = std::min(std::max(460, layout()->totalHeightForWidth(leveys)), alla->height());
+    resize(leveys, korkeus);
     move((alla->width() - width()) / 2, (alla->height() - height()) / 2);
     show();
     raise();
+    // Painted now, before the event's sound starts.
+    repaint();
+}
+
+void ikkuna::setVisible(bool näkyvissä) {
+    // Only a blanking can happen without a tell, so nothing is loaded here.
+    if (näkyvissä && peli_.näkymä.IkkunaKuva.empty() && !näytettyKuva_.empty()) AsetaKuva("");
+    QFrame::setVisible(näkyvissä);
 }
 
 void ikkuna::Sulje() {

@@ -20,17 +20,24 @@ public:
     void Näytä(const std::string& kuva, const std::string& teksti);
     QPushButton* Command1() const { return sulje_; }
     QLabel* Tapahtuma() const { return tapahtuma_; }
+    QLabel* kuva() const { return kuva_; }
+
+    // Shown again after a day: the picture follows the game's, which the day's events may have
+    // blanked without telling anything.
+    void setVisible(bool näkyvissä) override;
 
     // Closed: PaluuLomake tells where to go back ("Työvoima" or "" for the main screen).
     std::function<void(const QString&)> Suljettu;
 
 private:
     void Sulje();
+    void AsetaKuva(const std::string& kuva);
 
     Peli& peli_;
     QLabel* kuva_;
     QLabel* tapahtuma_;
     QPushButton* sulje_;
+    std::string näytettyKuva_;
 };
 
 }  // namespace tanhua::ui

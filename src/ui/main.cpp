@@ -48,6 +48,7 @@ int main(int argc, char** argv) {
     tanhua::ui::Pääikkuna ikkuna(peli);
     kanavat.Liitä(&ikkuna);
     ikkuna.show();
+    ikkuna.NäytäLogo();
     ikkuna.Käynnistä();
     return QApplication::exec();
 }

@@ -2,11 +2,14 @@
 #pragma once
 
 // std
+#include <atomic>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 
 struct Mix_Chunk;
+typedef struct _Mix_Music Mix_Music;
 
 namespace tanhua::ui {
 
@@ -23,8 +26,23 @@ public:
     // plays nothing and says nothing.
     void Soita(const std::string& nimi);
 
+    // The songs: MIDI through the mixer's synthesiser and a General MIDI soundfont (SDL_SOUNDFONTS
+    // names another). AvaaMidi throws a Vika when the device or the synthesiser can't be had.
+    void AvaaMidi();
+    // Plays a song once from its start; throws a Vika when it can't be loaded.
+    void SoitaMidi(const std::string& tiedosto);
+    void PysäytäMidi();
+    void SuljeMidi();
+    // Called on the window's thread when a song has played to its end (never after a stop).
+    std::function<void()> KappaleLoppui;
+
 private:
+    static void LoppuKoukku();
     std::filesystem::path kansio_;
+    Mix_Music* kappale_ = nullptr;
+    // Counts the songs started; the end of one is told only if no other has started since.
+    std::atomic<unsigned> sukupolvi_{0};
+    std::atomic<bool> soi_{false};
     int tila_ = -1;  // -1 not asked, 0 no device, 1 open
     std::map<std::string, Mix_Chunk*> äänet_;
 };

@@ -8,6 +8,7 @@
 #include "core/sää.h"
 #include "core/state.h"
 #include "core/taulut/taustat.h"
+#include "events/taulut/kuvat.h"
 #include "storage/tiedostot.h"
 
 namespace tanhua {
@@ -28,6 +29,13 @@ TEST(ProgramFolder, EveryPictureOfTheTablesIsThere) {
     // Names are found whatever their case, and a missing one isn't.
     EXPECT_TRUE(EtsiTiedosto(TANHUA_PROGRAM_DIR, "kuvat/SATTUMAT/pako.JPG").has_value());
     EXPECT_FALSE(EtsiTiedosto(TANHUA_PROGRAM_DIR, "Kuvat/ei-ole.jpg").has_value());
+}
+
+TEST(ProgramFolder, EveryPictureAndSoundOfTheEventsIsThere) {
+    for (std::string_view kuva : sattumakuva::KAIKKI)
+        EXPECT_TRUE(EtsiTiedosto(TANHUA_PROGRAM_DIR, "\\Kuvat\\sattumat\\" + std::string(kuva)).has_value()) << kuva;
+    for (std::string_view ääni : sattumaääni::KAIKKI)
+        EXPECT_TRUE(EtsiTiedosto(TANHUA_PROGRAM_DIR, "\\Äänet\\" + std::string(ääni) + ".wav").has_value()) << ääni;
 }
 
 }  // namespace

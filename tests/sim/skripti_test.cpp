@@ -71,7 +71,10 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"file ../Asetukset.dat\n", "line 1: a file of the data folder is named without folders"},
                             {"poke Puuttuu.sav 0 1\n", "line 1: no file 'Puuttuu.sav'"},
                             {"poke Asetukset.dat 100000 1\n", "line 1: OFFSET must be within the file's"},
-                            {"poke Asetukset.dat 0 256\n", "line 1: BYTE goes from 0 to 255"}}) {
+                            {"poke Asetukset.dat 0 256\n", "line 1: BYTE goes from 0 to 255"},
+                            // The day's weather picture is -1 to 9.
+                            {"new A Vapaa 1 on\nset SääKuva 10\n", "line 2: SääKuva goes from -1 to 9: '10'"},
+                            {"new A Vapaa 1 on\nset SääKuva -2\n", "line 2: SääKuva goes from -1 to 9"}}) {
         const Ajo ajo = Aja(c.skripti);
         EXPECT_EQ(ajo.tila, 1) << c.skripti;
         EXPECT_NE(ajo.virheet.find(c.virhe), std::string::npos) << c.skripti << ajo.virheet;
@@ -80,7 +83,7 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
 
 TEST(Runner, PrintsWhatTheMainScreensControlsShow) {
     // A warm clear day; the stars show with the lock on and hide with it off.
-    const Ajo ajo = Aja("new A Vapaa 1 on\nset Kuukausi 7\ndraws 0.5 0.1 0.9 0.9\ndays 1\n"
+    const Ajo ajo = Aja("set Musiikki False\nnew A Vapaa 1 on\nset Kuukausi 7\ndraws 0.5 0.1 0.9 0.9\ndays 1\n"
                         "print Tanhua.AsteLuku Tanhua.Sää Tanhua.TP_Kuva(0) Tanhua.Lista Tanhua.Command9 Tanhua.Mittari4\n"
                         "set TähtiLukitus False\ncall Päivitälukemat\nprint Tanhua.TP_Kuva(4)\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
@@ -94,14 +97,14 @@ TEST(Runner, PrintsWhatTheMainScreensControlsShow) {
 
 TEST(Runner, APressAPlayerCouldNotMakeIsSkippedAndTheScriptReadsOn) {
     // The stars keep the supplies shut and hide with the lock off; the script goes on to its end.
-    const Ajo ajo = Aja("new A Vapaa 1 on\nevents\ncall Tarvikkeet.Avaa\nset TähtiLukitus False\ncall Päivitälukemat\n"
+    const Ajo ajo = Aja("set Musiikki False\nnew A Vapaa 1 on\nevents\ncall Tarvikkeet.Avaa\nset TähtiLukitus False\ncall Päivitälukemat\n"
                         "call Tanhua.NäytäTähti 2\nprint Päivä\nevents\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
     EXPECT_EQ(ajo.ulos, "Päivä=1\nOHITETTU|Tarvikkeet.Avaa\nOHITETTU|Tanhua.NäytäTähti\n");
 }
 
 TEST(Runner, TellsTheEndOfTheProgramAndReadsOn) {
-    const Ajo ajo = Aja("new A Vapaa 1 on\nset Äänitehosteet True\ndraws 0.1 0.1\nevents\nanswer Kyllä\n"
+    const Ajo ajo = Aja("set Musiikki False\nnew A Vapaa 1 on\nset Äänitehosteet True\ndraws 0.1 0.1\nevents\nanswer Kyllä\n"
                         "call Tanhua.Lopetus\nevents\nprint Päivä\nnew B Vapaa 1 on\ndays 2\nprint Päivä PelaajanNimi\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
     // The button clicks, the box asks, its answer clicks, the game ends.
@@ -125,7 +128,7 @@ TEST(Runner, ReadsAndTampersWithTheDataFolderBytes) {
 
 TEST(Runner, SetStoresByWidthAndPrintsWithoutTheBlank) {
     const Ajo ajo = Aja(
-        "new Matti Vapaa 1 on\nevents\nset Raha 3.5\nset Hygienia 4.5\nset Viikonloppu True\nset Raha -2\n"
+        "set Musiikki False\nnew Matti Vapaa 1 on\nevents\nset Raha 3.5\nset Hygienia 4.5\nset Viikonloppu True\nset Raha -2\n"
         "set Vuodenaika Talvi\nprint Raha Hygienia Viikonloppu Vuodenaika\n"
         "set Päivä 300\nset Raha kolme\nprint Päivä Raha\nevents\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
