@@ -61,8 +61,15 @@ void MaidenToiminnot(Toimintoluettelo& t) {
 
     // The land screen.
     t["Pellot.Avaa"] = Pelkkä(AvaaPellot);
-    t["Pellot.Sulje"] = Painallus("Pellot.Command1", SuljePellot);
-    t["Pellot.Esc"] = EscNäppäin(PellotEsc);
+    // Leaving a screen that isn't showing is no press a player can make.
+    t["Pellot.Sulje"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                     if (!peli.peltoruutu.auki) Ohita();
+                                     SuljePellot(peli);
+                                 }};
+    t["Pellot.Esc"] = EscNäppäin([](Peli& peli) {
+        if (!peli.peltoruutu.auki) Ohita();
+        return PellotEsc(peli);
+    });
     t["Pellot.ValitseMaa"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
                                           ValitseMaa(peli, MaaSanasta(a[0]));
                                       }};
