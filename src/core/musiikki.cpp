@@ -60,6 +60,17 @@ void SeuraavaRivi(Soitin& s) {
 }  // namespace
 
 namespace {
+// The two boxes of a player that can't start: where it failed, the failure, the Vista note, and
+// why the game goes on silent.
+void MidiVikaLaatikko(Peli& peli, const char* paikkaTeksti, const char* missä, const Vika& vika, const char* syy,
+                      const char* jatko) {
+    peli.m.VikaPaikka = paikkaTeksti;
+    peli.kanavat.Laatikko(std::string("Tanhua suoritti vikatilan ") + missä + ".\n" + VianKuvaus(vika) + "\r\n" +
+                          VISTA_RIVI + "\r\n" +
+                          "Windows Vista käyttöjärjestelmä ei kykene soittamaan DirectX 8:n midi toistoa, koska " +
+                          syy + jatko + ", mutta et tule kuulemaan musiikkia taustalla.");
+}
+
 // Opens the player; a failure shows the player's own box and is handed back for the start's box.
 bool Alusta(Peli& peli, Vika& vika) {
     try {
@@ -68,12 +79,9 @@ bool Alusta(Peli& peli, Vika& vika) {
     } catch (...) {
         vika = VikaPoikkeuksesta(std::current_exception());
     }
-    peli.m.VikaPaikka = "Initializoimassa Midejä";
-    peli.kanavat.Laatikko(
-        "Tanhua suoritti vikatilan Midien initializoimisessa.\n" + VianKuvaus(vika) + "\r\n" + VISTA_RIVI + "\r\n" +
-        "Windows Vista käyttöjärjestelmä ei kykene soittamaan DirectX 8:n midi toistoa, koska Vistalla ei ole "
-        "kaikkia tarvittavia .dll tiedostoja. Yksi näistä on dx8vb.dll." +
-        "Peli tulee jatkumaan muuten normaalisti, mutta et tule kuulemaan musiikkia taustalla.");
+    MidiVikaLaatikko(peli, "Initializoimassa Midejä", "Midien initializoimisessa", vika,
+                     "Vistalla ei ole kaikkia tarvittavia .dll tiedostoja. Yksi näistä on dx8vb.dll.",
+                     "Peli tulee jatkumaan muuten normaalisti");
     return false;
 }
 }  // namespace
@@ -85,12 +93,9 @@ void KäynnistäSoitin(Peli& peli) {
     Vika vika(0, "");
     s.MidiValmis = Alusta(peli, vika);
     if (s.MidiValmis) return;
-    peli.m.VikaPaikka = "Ladattaessa DirectX 8:aa ja midejä.";
-    peli.kanavat.Laatikko(
-        "Tanhua suoritti vikatilan DirectX 8:n latauksessa.\n" + VianKuvaus(vika) + "\r\n" + VISTA_RIVI + "\r\n" +
-        "Windows Vista käyttöjärjestelmä ei kykene soittamaan DirectX 8:n midi toistoa, koska sinulla ei ole "
-        "asennettuna kaikkia vaadittavia .dll tiedostoja." +
-        "Peli tulee toimimaan muuten normaalisti, mutta et tule kuulemaan musiikkia taustalla.");
+    MidiVikaLaatikko(peli, "Ladattaessa DirectX 8:aa ja midejä.", "DirectX 8:n latauksessa", vika,
+                     "sinulla ei ole asennettuna kaikkia vaadittavia .dll tiedostoja.",
+                     "Peli tulee toimimaan muuten normaalisti");
 }
 
 void KäynnistäSoitinKerran(Peli& peli) {

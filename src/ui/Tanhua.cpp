@@ -122,8 +122,13 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     lista_ = new QListWidget(this);
     lista_->setObjectName("Lista");
     lista_->setToolTip("Ilmoitus lista");
-    lista_->setStyleSheet("QListWidget { background: rgba(255, 252, 240, 225); border: 2px solid #6b4a22;"
-                          " border-radius: 6px; font-size: 11pt; }");
+    // The list is a page of the game's notebook: paper, a serif hand, the newest line in ink, no
+    // selection bar of the toolkit's own.
+    lista_->setStyleSheet("QListWidget { background: rgba(250, 243, 222, 232); border: 2px solid #6b4a22;"
+                          " border-radius: 6px; font-family: 'DejaVu Serif'; font-size: 11pt; color: #3b2a14;"
+                          " padding: 4px; }"
+                          " QListWidget::item { border-bottom: 1px solid rgba(107, 74, 34, 60); padding: 1px 2px; }"
+                          " QListWidget::item:selected { background: transparent; color: #1f1408; font-weight: bold; }");
     lista_->setFocusPolicy(Qt::NoFocus);
     lista_->setMaximumSize(640, 240);
 
