@@ -25,7 +25,7 @@ double Siemenhinta(const Muuttujat& m, Kasvi k) {
 }
 
 void PäivitäKasvikortti(KylvöRuutuTila& r) {
-    r.yhteensä = static_cast<double>(r.määrä) * r.kulu * r.hinta;
+    Aseta(r.yhteensä, static_cast<double>(r.määrä) * r.kulu * r.hinta);
 }
 
 // A plan changed: the areas and the sheet again.

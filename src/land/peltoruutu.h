@@ -35,7 +35,7 @@ struct KylvöRuutuTila {
     Long määrä = 0;                   // hectares on the card
     Single hinta = 0;                 // seed price + its index
     Long kulu = 0;                    // seed a hectare
-    double yhteensä = 0;              // määrä × kulu × hinta
+    Single yhteensä = 0;              // määrä × kulu × hinta, as the label holds it
     bool Lannoitetaan = false, Myrkytetään = false, Ojitetaan = false;
     std::vector<std::string> Kustannukset;  // the cost sheet, line by line
     Long T = 0;                       // the sheet's total
