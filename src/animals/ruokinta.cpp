@@ -23,6 +23,7 @@ void Ruokinta(Peli& peli) {
     // Both figures are taken before anyone eats or starves.
     const double laidun = LaidunKerroin(m);
     const Long tarve = RehuTarve(m);
+    peli.päivänRehuTarve = tarve;  // the feed plant reads the estimate the feeding took
 
     for (const RuokintaRivi& rivi : RUOKINTATAULU) {
         const Long päitä = m.El[rivi.laji][rivi.luokka];

@@ -1,5 +1,4 @@
-// The buildings' day: work orders, the packing plant, the daily bills, the stable.
-// These steps keep their place in the day; their rules come with the subsystem.
+// The buildings' day: the work orders, and the stable's step, which keeps its place in the day.
 #include "rakennukset.h"
 
 #include <string>
@@ -44,9 +43,6 @@ void TyömaaPäivä(Peli& peli) {
         }
     }
 }
-void PakkaamoPäivä(Peli& /*peli*/) {}
-void PäiväKulut(Peli& /*peli*/) {}
 void RatsastusPäivä(Peli& /*peli*/) {}
-void Jalostus(Peli& /*peli*/, Rakennus /*rakennus*/) {}
 
 }  // namespace tanhua

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "../core/laskenta.h"
@@ -36,6 +37,10 @@ struct RakennusRuutuTila {
     std::string navettaz, siiloz, varastoz;
 
     std::string ohje;             // the hint line
+
+    // The weather's factors of the bills (SF, VF) as they stood when the screen was opened: the
+    // production panels' estimates use these.
+    std::optional<double> SF, VF;
 };
 
 }  // namespace tanhua

@@ -1,10 +1,13 @@
 // The controls of the building screen as the player sees them.
+#include <algorithm>
 #include <string>
 
 #include "../core/kanavat.h"
 #include "../core/ohjaimet.h"
 #include "../core/peli.h"
+#include "paneeli.h"
 #include "rakentaminen.h"
+#include "taulut/paneelit.h"
 
 namespace tanhua {
 
@@ -12,6 +15,20 @@ namespace {
 
 const RakennusRuutuTila& R(const Peli& p) { return p.rakennusruutu; }
 bool Valittu(const Peli& p) { return R(p).kohde >= 0; }
+// The chosen building, where a building (not a store) is chosen.
+Rakennus ValittuRakennus(const Peli& p) { return static_cast<Rakennus>(R(p).kohde); }
+
+// The slider's place for the chosen building's percentage: a tenth of it, held to the scale.
+int Liukuarvo(const Peli& p) {
+    return std::clamp(p.m.Tuotanto[static_cast<std::size_t>(R(p).kohde)] / 10, 0, TUOTANTO_ASKELIA);
+}
+
+// A product picture of the panel, shown with the panel where the building has one.
+Ohjain PaneelinKuva(const Peli& p, std::string (*kuva)(Rakennus)) {
+    if (!R(p).paneeli) return Piilossa();
+    const std::string tiedosto = kuva(ValittuRakennus(p));
+    return tiedosto.empty() ? Piilossa() : Näkyvä(tiedosto);
+}
 
 // A target's picture: its file, with the pointer's tip under the heading "Rakennus : " and the
 // name where the picture has one.
@@ -53,8 +70,24 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l) {
         return Näkyvä(Valittu(p) ? std::string(RAKENNUSKATALOGI[R(p).kohde].avain) : std::string());
     });
     yksi("taso", [](const Peli& p) { return JosNäkyy(!R(p).taso.empty(), [&] { return R(p).taso; }); });
-    // From level 1 the building's production panel takes the text's place.
-    yksi("info", [](const Peli& p) { return JosNäkyy(!R(p).paneeli, [&] { return R(p).info; }); });
+    // From level 1 the building's production panel takes the selection text's place; the
+    // work-order text still wins while an order runs.
+    yksi("info", [](const Peli& p) {
+        return Näkyvä(R(p).paneeli ? RakennusPaneeli(p, ValittuRakennus(p)) : R(p).info);
+    });
+    // Beside the panel the raw stock's and the product's pictures.
+    yksi("RaakaKuva", [](const Peli& p) { return PaneelinKuva(p, RaakaKuva); });
+    yksi("TuoteKuva", [](const Peli& p) { return PaneelinKuva(p, TuoteKuva); });
+    // The production slider and its percentage, on the eight buildings that have one.
+    yksi("Rakennus_Tuotanto", [](const Peli& p) {
+        if (!TuotantoNäkyy(p)) return Piilossa();
+        Ohjain o = Näkyvä(std::to_string(Liukuarvo(p)));
+        o.vihje = std::string(TUOTANTO_VIHJE);
+        return o;
+    });
+    yksi("Prosentti", [](const Peli& p) {
+        return JosNäkyy(TuotantoNäkyy(p), [&] { return std::to_string(10 * Liukuarvo(p)) + " %"; });
+    });
     yksi("hintanäky", [](const Peli& p) { return Näkyvä(Valittu(p) ? Str(R(p).hinta) : std::string()); });
     yksi("Kesto", [](const Peli& p) { return Näkyvä(Valittu(p) ? Str(R(p).Kesto) + " päivää" : std::string()); });
     yksi("määrä", [](const Peli& p) { return Näkyvä(Valittu(p) ? Luku(R(p).määrä) : std::string()); });

@@ -8,6 +8,7 @@
 #include "../core/peli.h"
 #include "../core/pääruutu.h"
 #include "../core/viestit.h"
+#include "kulut.h"
 
 namespace tanhua {
 
@@ -74,6 +75,8 @@ void AvaaRakennukset(Peli& peli) {
     const Muuttujat& m = peli.m;
     RakennusRuutuTila& r = peli.rakennusruutu;
     r.auki = true;
+    r.SF = Sähkökerroin(m);
+    r.VF = Vesikerroin(m);
     r.navettaz = Luku(m.Koko_Navetta);
     r.siiloz = Luku(m.Koko_Siilo);
     r.varastoz = Luku(m.Koko_Varasto);
@@ -97,7 +100,7 @@ int KuvanNumero(std::size_t kohde) {
 }
 
 void ValitseKohde(Peli& peli, std::size_t kohde) {
-    const Muuttujat& m = peli.m;
+    Muuttujat& m = peli.m;
     RakennusRuutuTila& r = peli.rakennusruutu;
     const KatalogiRivi& rivi = Rivi(kohde);
     SoitaÄäni(peli, "siirto");
@@ -120,6 +123,8 @@ void ValitseKohde(Peli& peli, std::size_t kohde) {
         r.Command2Käytössä = TilausKäytössä(m, kohde);
         r.taso = Luku(taso) + " / 5";
         r.paneeli = taso > 0;
+        // A new building starts at full output: choosing it unbuilt sets its percentage.
+        if (taso == 0 && RAKENNUSTAULU[kohde].tuotanto) Aseta(m.Tuotanto[kohde], 100);
     }
     if (m.RakAika[kohde] > 0) {
         r.info = std::string(TEKSTI_RAKENTEILLA);
@@ -208,6 +213,17 @@ void TilaaKohde(Peli& peli) {
     NäytäTyömaat(peli);
     NäytäRaha(peli);
     AskelMäärä(peli, 0);
+}
+
+bool TuotantoNäkyy(const Peli& peli) {
+    const int kohde = peli.rakennusruutu.kohde;
+    if (kohde < 0 || OnVarastotila(static_cast<std::size_t>(kohde))) return false;
+    return RAKENNUSTAULU[kohde].tuotanto && peli.m.Rak[kohde] > 0;
+}
+
+void AsetaTuotanto(Peli& peli, int arvo) {
+    if (!TuotantoNäkyy(peli) || arvo < 0 || arvo > TUOTANTO_ASKELIA) return;
+    Aseta(peli.m.Tuotanto[peli.rakennusruutu.kohde], 10 * arvo);
 }
 
 }  // namespace tanhua

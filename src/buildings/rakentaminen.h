@@ -45,4 +45,11 @@ void TilaaKohde(Peli& peli);
 // Refreshes the sixteen day labels and the star locks over them.
 void NäytäTyömaat(Peli& peli);
 
+// The production slider Rakennus_Tuotanto (0 to 10) shows for a chosen building that has a
+// percentage, from level 1; it stays usable while an expansion runs.
+bool TuotantoNäkyy(const Peli& peli);
+// A move of the slider: the chosen building's percentage becomes ten times the value, at once.
+void AsetaTuotanto(Peli& peli, int arvo);
+inline constexpr int TUOTANTO_ASKELIA = 10;
+
 }  // namespace tanhua

@@ -105,8 +105,9 @@ struct Peli {
     // The day's store load while a day runs: taken once, before the herd's output, and read by
     // every shift of the day, so goods made later today don't block today's work.
     std::optional<double> päivänKuorma;
-    // The season value S while the day's season block runs: the honey and berry chains add to it,
-    // and the grain of the fields reads it last.
+    // The herd's feed estimate as the day's feeding took it, which the feed plant reads.
+    std::optional<Long> päivänRehuTarve;
+    // The season value of the day's season block: worked out at its head, raised by pollination.
     std::optional<double> päivänKausiarvo;
 };
 

@@ -109,8 +109,6 @@ void SeuraavaPäivä(Peli& peli) {
         // The store gate: above its size, no staff work today (at exactly full they still work).
         [&] { if (työpäivä()) Metsänhakkuu(peli); },
         [&] { if (työpäivä()) Jalostus(peli, Saha); },
-        // The season value is worked out at the head of the season block and runs through it.
-        [&] { if (työpäivä() && kesä()) peli.päivänKausiarvo = Kausiarvo(m); },
         [&] { if (työpäivä() && kesä()) Jalostus(peli, Mehiläistarha); },
         [&] { if (työpäivä() && kesä()) Jalostus(peli, Kasvihuone); },
         [&] { if (työpäivä() && kesä()) Jalostus(peli, Marjatarha); },

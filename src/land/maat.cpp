@@ -1,7 +1,8 @@
-// The land's day and month: the forester's felling, the grain of the fields, the season value and
-// the monthly replanting of waste land.
+// The land's day and month: the forester's felling, the grain of the fields and the monthly
+// replanting of waste land.
 #include "maat.h"
 
+#include "../buildings/jalostus.h"
 #include "../core/peli.h"
 #include "../core/viestit.h"
 
@@ -70,26 +71,11 @@ Long Metsitys(Peli& peli) {
     return kulut;
 }
 
-double Kausiarvo(const Muuttujat& m) {
-    double S = 0;
-    if (m.Vuodenaika == "Kevät") S = 3;
-    else if (m.Vuodenaika == "Kesä") S = 5;
-    else if (m.Vuodenaika == "Syksy") S = 6;
-    else return 0;
-    if (m.Tarv[Kastelujärjestelmä]) S += 1;
-    // Frost takes nothing away: the temperature's share stops at 0.
-    const double lämpö = (m.Lämpötila + 32) * 0.02;
-    if (lämpö > 0) S += lämpö;
-    S += static_cast<double>(m.Sateisuus) * m.Aurinkoisuus * 0.2;
-    return S;
-}
-
-double PäivänKausiarvo(const Peli& peli) { return peli.päivänKausiarvo ? *peli.päivänKausiarvo : Kausiarvo(peli.m); }
-
 void Viljankasvu(Peli& peli) {
     Muuttujat& m = peli.m;
     if (m.Vuodenaika == "Talvi") return;
-    const double S = PäivänKausiarvo(peli);
+    // Within a day the season block's value, pollination included; on its own the value afresh.
+    const double S = peli.päivänKausiarvo ? *peli.päivänKausiarvo : Kausiarvo(m);
     if (m.Pelto <= 0) return;
     // Manure: up to a kilo a hectare, never more than a third of the stock.
     double D = 0;

@@ -130,20 +130,6 @@ const Toimintoluettelo& Toiminnot() {
              VaadiPainettava(peli, "Tanhua.Lopetus");
              if (LopetaKysymys(peli)) Lopeta(peli);
          }}},
-        {"Jalostus", Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-             const int r = KohdeNimellä(a[0]);
-             if (r < 0 || r >= static_cast<int>(RAKENNUKSIA))
-                 throw std::runtime_error("Jalostus takes a building's key: '" + a[0] + "'");
-             // Outside a day the store load is taken once at the start, as the day's step does;
-             // inside a day the day's figure stands.
-             struct OmaKuorma {
-                 Peli& peli;
-                 bool oma = !peli.päivänKuorma;
-                 ~OmaKuorma() { if (oma) peli.päivänKuorma.reset(); }
-             } kuorma{peli};
-             if (kuorma.oma) peli.päivänKuorma = VarastoKuorma(peli.m);
-             Jalostus(peli, static_cast<Rakennus>(r));
-         }}},
         {"Alku.NostaVaikeustasoa", Aloitusruudun(NostaVaikeustasoa)},
         {"Alku.LaskeVaikeustasoa", Aloitusruudun(LaskeVaikeustasoa)},
         {"Tilanne.UusiTilanne", Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { UusiTilanne(peli); }}},

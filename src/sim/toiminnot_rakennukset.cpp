@@ -44,10 +44,33 @@ void AsetaAskel(Peli& peli, int askel) {
         AskelMäärä(peli, askel > peli.rakennusruutu.askel ? 1 : -1);
 }
 
+// The slider's place: a whole number from 0 to 10, else a malformed line.
+int Liukuarvo(const std::string& sana) {
+    if (sana.empty() || sana.size() > 2 || sana.find_first_not_of("0123456789") != std::string::npos ||
+        std::stoi(sana) > TUOTANTO_ASKELIA)
+        throw std::runtime_error("the production slider is a whole number from 0 to 10: '" + sana + "'");
+    return std::stoi(sana);
+}
+
 }  // namespace
 
 void RakennustenToiminnot(Toimintoluettelo& t) {
     t["TyömaaPäivä"] = Pelkkä(TyömaaPäivä);
+    // The day's production steps in their order, or with a building's key that building's step.
+    // Outside a day the steps take the store load and the herd's feed estimate once at the start.
+    t["Jalostus"] = Toiminto{0, 1, [](Peli& peli, const std::vector<std::string>& a) {
+                                 if (a.empty()) return Jalostus(peli);
+                                 const int r = KohdeNimellä(a[0]);
+                                 if (r < 0 || r >= static_cast<int>(RAKENNUKSIA))
+                                     throw std::runtime_error("Jalostus takes a building's key: '" + a[0] + "'");
+                                 const JalostuksenLuvut luvut(peli);
+                                 Jalostus(peli, static_cast<Rakennus>(r));
+                             }};
+    t["Rakennukset.Tuotanto"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
+                                             const int arvo = Liukuarvo(a[0]);
+                                             VaadiPainettava(peli, "Rakennukset.Rakennus_Tuotanto");
+                                             AsetaTuotanto(peli, arvo);
+                                         }};
     t["Rakennukset.Avaa"] = Pelkkä(AvaaRakennukset);
     // Leaving a screen that isn't showing is no press a player can make.
     t["Rakennukset.Sulje"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {

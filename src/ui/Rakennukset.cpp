@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace tanhua::ui {
@@ -45,9 +46,10 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     nimi_ = Teksti("", 16, kortti);
     korttikuva_ = new QLabel(kortti);
     taso_ = Teksti("", 12, kortti);
-    info_ = Teksti("", 10, kortti, false);
+    info_ = Teksti("", 9, kortti, false);
     info_->setWordWrap(true);
-    info_->setMinimumHeight(90);
+    // Room for the feed plant's seven lines, the longest panel.
+    info_->setMinimumHeight(112);
     nimi_->setObjectName("Kohde");
     taso_->setObjectName("taso");
     info_->setObjectName("info");
@@ -70,6 +72,22 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     }
     connect(miinus_, &QPushButton::clicked, this, [this] { ikkuna_.Toimi([this] { AskelMäärä(peli_, -1); }); });
     connect(plus_, &QPushButton::clicked, this, [this] { ikkuna_.Toimi([this] { AskelMäärä(peli_, 1); }); });
+    // The production panel's pictures and slider.
+    raaka_ = new QLabel(kortti);
+    raaka_->setObjectName("RaakaKuva");
+    tuote_ = new QLabel(kortti);
+    tuote_->setObjectName("TuoteKuva");
+    tuotanto_ = new QSlider(Qt::Horizontal, kortti);
+    tuotanto_->setObjectName("Rakennus_Tuotanto");
+    tuotanto_->setRange(0, TUOTANTO_ASKELIA);
+    tuotanto_->setPageStep(1);
+    tuotanto_->setTickPosition(QSlider::TicksBelow);
+    prosentti_ = Teksti("", 11, kortti);
+    prosentti_->setObjectName("Prosentti");
+    prosentti_->setMinimumWidth(48);
+    // A move takes effect at once.
+    connect(tuotanto_, &QSlider::valueChanged, this,
+            [this](int arvo) { ikkuna_.Toimi([this, arvo] { AsetaTuotanto(peli_, arvo); }); });
     connect(tilaa_, &QPushButton::clicked, this, [this] {
         ikkuna_.Toimi([this] {
             TilaaKohde(peli_);
@@ -77,10 +95,21 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
         });
     });
     auto* g = new QGridLayout(kortti);
+    g->setVerticalSpacing(4);  // room for a production panel's lines at 800 x 600
     g->addWidget(nimi_, 0, 0, 1, 2);
     g->addWidget(korttikuva_, 0, 2, 3, 1, Qt::AlignRight | Qt::AlignTop);
-    g->addWidget(taso_, 1, 0, 1, 2);
+    g->addWidget(taso_, 1, 0);
+    // The panel's raw stock and product sit beside the level, right above the panel's lines.
+    auto* kuvat = new QHBoxLayout;
+    kuvat->addWidget(raaka_);
+    kuvat->addWidget(tuote_);
+    kuvat->addStretch();
+    g->addLayout(kuvat, 1, 1, 2, 1);
     g->addWidget(info_, 3, 0, 1, 3);
+    auto* liuku = new QHBoxLayout;
+    liuku->addWidget(tuotanto_, 1);
+    liuku->addWidget(prosentti_);
+    g->addLayout(liuku, 8, 0, 1, 3);
     g->addWidget(Teksti("Hinta :", 11, kortti, false), 4, 0);
     g->addWidget(hinta_, 4, 1, 1, 2);
     g->addWidget(Teksti("Kesto :", 11, kortti, false), 5, 0);
@@ -157,11 +186,22 @@ void Rakennukset::Päivitä() {
     Näytä(siiloz_, Lue(peli_, "siiloz"));
     Näytä(varastoz_, Lue(peli_, "varastoz"));
     const RakennusRuutuTila& t = peli_.rakennusruutu;
-    korttikuva_->setPixmap(t.kohde >= 0 ? KuvaJosOn(peli_, Kuvatiedosto(peli_, t.kohde)).scaled(128, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+    korttikuva_->setPixmap(t.kohde >= 0 ? KuvaJosOn(peli_, Kuvatiedosto(peli_, t.kohde)).scaled(112, 84, Qt::KeepAspectRatio, Qt::SmoothTransformation)
                                         : QPixmap());
     Näytä(nimi_, Lue(peli_, "Kohde"));
     Näytä(taso_, Lue(peli_, "taso"));
     Näytä(info_, Lue(peli_, "info"));
+    NäytäKuva(peli_, raaka_, "Kuvat/tuotteet/", Lue(peli_, "RaakaKuva"), 36);
+    NäytäKuva(peli_, tuote_, "Kuvat/tuotteet/", Lue(peli_, "TuoteKuva"), 36);
+    const Ohjain tuotanto = Lue(peli_, "Rakennus_Tuotanto");
+    if (tuotanto.näkyvissä) {
+        const QSignalBlocker esto(tuotanto_);
+        tuotanto_->setValue(std::stoi(tuotanto.arvo));
+    }
+    tuotanto_->setToolTip(Q(tuotanto.vihje));
+    tuotanto_->setVisible(tuotanto.näkyvissä);
+    tuotanto_->setEnabled(tuotanto.käytössä);
+    Näytä(prosentti_, Lue(peli_, "Prosentti"));
     Näytä(hinta_, Lue(peli_, "hintanäky"));
     Näytä(kesto_, Lue(peli_, "Kesto"));
     Näytä(määrä_, Lue(peli_, "määrä"));

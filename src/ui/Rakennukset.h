@@ -7,6 +7,7 @@
 // Qt
 #include <QLabel>
 #include <QPushButton>
+#include <QSlider>
 // std
 #include <array>
 #include <string>
@@ -29,6 +30,8 @@ public:
     QPushButton* Miinus() const { return miinus_; }
     QPushButton* Command1() const { return sulje_; }
     QLabel* hintanäky() const { return hinta_; }
+    QSlider* Rakennus_Tuotanto() const { return tuotanto_; }
+    QLabel* Prosentti() const { return prosentti_; }
     // A target's day label by its name on the screen ("RakenneSahaz").
     static std::string PäiväLabel(std::size_t kohde);
 
@@ -46,6 +49,8 @@ private:
     QLabel *aihe_, *ohje_, *navettaz_, *siiloz_, *varastoz_;
     QLabel *nimi_, *korttikuva_, *taso_, *info_, *hinta_, *kesto_, *määrä_;
     QPushButton *tilaa_, *plus_, *miinus_, *sulje_;
+    QLabel *raaka_, *tuote_, *prosentti_;  // the production panel's pictures and percentage
+    QSlider* tuotanto_;
 };
 
 }  // namespace tanhua::ui

@@ -122,7 +122,7 @@ TEST(Screens, TheBuildingScreenShowsItsControlsAsTheGameReadsThem) {
     i.peli.m.RakAika[Mylly] = 0;
     QTest::mouseClick(r->Kuva(Mylly), Qt::LeftButton);
     VertaaRuutua(i.peli, r, "Rakennukset");
-    EXPECT_FALSE(r->findChild<QLabel*>("info")->isVisible());
+    EXPECT_TRUE(r->findChild<QLabel*>("info")->text().startsWith("Myllyn tämän kk:n tuotto: \r\n"));
     EXPECT_EQ(r->findChild<QLabel*>("taso")->text(), "2 / 5");
     EXPECT_FALSE(r->Plus()->isEnabled());
     QTest::keyClick(r, Qt::Key_Escape);
