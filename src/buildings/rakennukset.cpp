@@ -43,6 +43,5 @@ void TyömaaPäivä(Peli& peli) {
         }
     }
 }
-void RatsastusPäivä(Peli& /*peli*/) {}
 
 }  // namespace tanhua

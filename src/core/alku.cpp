@@ -225,6 +225,7 @@ void NollaaRuudut(Peli& peli) {
     peli.peltoruutu = PeltoRuutuTila{};
     peli.kylvöruutu = KylvöRuutuTila{};
     peli.nostoruutu = NostoRuutuTila{};
+    peli.talliruutu = TalliRuutuTila{};
     peli.soitin.Näkyvissä = false;
     peli.käynnissä = false;
 }

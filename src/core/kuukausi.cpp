@@ -165,6 +165,7 @@ void Kuukaudenvaihde(Peli& peli) {
     Tilitys(m, k);
     Aseta(m.Vesilasku, 0);
     Aseta(m.Sähkölasku, 0);
+    peli.talliruutu.Ratsastus.clear();
     Aseta(m.RatsastusTulot, 0);
     Aseta(m.YlityöPalkat, 0);
     Aseta(m.Verovähennykset, 0);

@@ -18,6 +18,7 @@ const Ohjainluettelo& Ohjaimet() {
         PankkiruudunOhjaimet(l);
         PeltoruudunOhjaimet(l);
         KylvöruudunOhjaimet(l);
+        HevostalliruudunOhjaimet(l);
         SoittimenOhjaimet(l);
         return l;
     }();

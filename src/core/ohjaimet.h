@@ -62,6 +62,7 @@ void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
 void PeltoruudunOhjaimet(Ohjainluettelo& l);     // Pellot
 void KylvöruudunOhjaimet(Ohjainluettelo& l);     // Kylvö and Nosto
+void HevostalliruudunOhjaimet(Ohjainluettelo& l);  // Hevostalli
 void SoittimenOhjaimet(Ohjainluettelo& l);       // Tanhua.PlayerLogo, Player, MidiFile, MidiValmis
 
 // A control by its written name: "Tanhua.Sää", or a member of an array as "Tanhua.TP_Kuva(1)".

@@ -8,6 +8,7 @@
 
 #include "../animals/eläinruutu.h"
 #include "../buildings/rakennusruutu.h"
+#include "../buildings/talliruutu.h"
 #include "../buildings/tarvikeruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../land/peltoruutu.h"
@@ -98,6 +99,7 @@ struct Peli {
     PeltoRuutuTila peltoruutu;        // the land screen's card, lot and forester's panel
     KylvöRuutuTila kylvöruutu;        // the sowing plan and its sheet
     NostoRuutuTila nostoruutu;        // the harvest estimate and its sheet
+    TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger
     Soitin soitin;                    // the songs and the music player's panel
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;

@@ -72,7 +72,10 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
     });
     yksi("Versio", [](const Peli& p) { return Teksti(L(p).Versio); });
     yksi("Ohje", [](const Peli& p) { return JosNäkyy(p.m.OhjeetPäällä, [&] { return p.näkymä.Ohje; }); });
-    yksi("Hepotalli", [](const Peli& p) { return JosNäkyy(p.näkymä.Hepotalli, [] { return "Hevostalli"; }); });
+    // The stable's button: shown with a stable and a mare, disabled with the rest while the report is open.
+    yksi("Hepotalli", [](const Peli& p) {
+        return p.näkymä.Hepotalli ? Näkyvä("Hevostalli", p.näkymä.PääruutuKäytössä) : Piilossa();
+    });
     for (const Nappi& n : NAPIT) {
         const std::string nimi = n.nimi;
         const char* teksti = n.teksti;

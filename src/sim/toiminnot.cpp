@@ -54,7 +54,8 @@ struct Ruutu {
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
                                {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
-                               {"Pellot", "Tanhua.Command5"}};
+                               {"Pellot", "Tanhua.Command5"},
+                               {"Hevostalli", "Tanhua.Hepotalli"}};
 
 struct Poistuminen {
     const char* toiminto;
@@ -69,6 +70,7 @@ const Poistuminen POISTUMISET[] = {
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
     {"Pellot.Sulje", Aina},
+    {"Hevostalli.Sulje", Aina},
 };
 
 void Siirtymät(Toimintoluettelo& t) {
@@ -143,6 +145,7 @@ const Toimintoluettelo& Toiminnot() {
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
         MaidenToiminnot(t);
+        TallinToiminnot(t);
         SoittimenToiminnot(t);
         Siirtymät(t);
         return t;

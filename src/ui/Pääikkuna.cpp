@@ -11,6 +11,7 @@
 #include "Pellot.h"
 #include "Kylvö.h"
 #include "Nosto.h"
+#include "Hevostalli.h"
 #include "Player.h"
 #include "core/musiikki.h"
 #include "market/markkinat.h"
@@ -43,8 +44,9 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     rakennukset_ = new Rakennukset(peli_, *this, pino_);
     pankki_ = new Pankki(peli_, *this, pino_);
     tarvikkeet_ = new Tarvikkeet(peli_, *this, pino_);
+    hevostalli_ = new Hevostalli(peli_, *this, pino_);
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
-                                                          rakennukset_, pankki_, tarvikkeet_})
+                                                          rakennukset_, pankki_, tarvikkeet_, hevostalli_})
         pino_->addWidget(ruutu);
     pellot_ = new Pellot(peli_, *this, pino_);
     kylvö_ = new Kylvö(peli_, *this, pino_);
@@ -102,6 +104,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         pino_->setCurrentWidget(pellot_);
         Päivitä();
     };
+    tanhua_->AvaaHevostalli = [this] { AvaaRuutu(hevostalli_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -214,6 +217,8 @@ void Pääikkuna::Päivitä() {
         kylvö_->Päivitä();
     } else if (nyt == nosto_) {
         nosto_->Päivitä();
+    } else if (nyt == hevostalli_) {
+        hevostalli_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -234,6 +239,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
             if (ruutu == pellot_) pellot_->Avaa();
+            if (ruutu == hevostalli_) hevostalli_->Avaa();
         });
     });
     // The main form folds to its middle line and stays small; the screen opens from it; the main
@@ -309,7 +315,7 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_ || ruutu == pellot_ || ruutu == kylvö_ || ruutu == nosto_;
+           ruutu == tarvikkeet_ || ruutu == hevostalli_ || ruutu == pellot_ || ruutu == kylvö_ || ruutu == nosto_;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

@@ -28,6 +28,7 @@ class Tarvikkeet;
 class Pellot;
 class Kylvö;
 class Nosto;
+class Hevostalli;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -74,6 +75,7 @@ public:
     Pellot* pellot() const { return pellot_; }
     Kylvö* kylvö() const { return kylvö_; }
     Nosto* nosto() const { return nosto_; }
+    Hevostalli* hevostalli() const { return hevostalli_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -109,6 +111,7 @@ private:
     Pellot* pellot_;
     Kylvö* kylvö_;
     Nosto* nosto_;
+    Hevostalli* hevostalli_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

@@ -182,6 +182,16 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     Ohje("Command5", command5_);
     connect(command5_, &QPushButton::clicked, this, [this] { if (AvaaPellot) AvaaPellot(); });
 
+    // The stable's button, shown only with a stable and a mare.
+    hepotalli_ = new QPushButton("Hevostalli", this);
+    hepotalli_->setObjectName("Hepotalli");
+    hepotalli_->setToolTip("Hevosten tulot ja tunnit");
+    Teksturoi(peli_, hepotalli_, "nappi.jpg", 12, 14);
+    hepotalli_->setMinimumSize(150, 40);
+    Ohje("Hepotalli", hepotalli_);
+    hepotalli_->hide();
+    connect(hepotalli_, &QPushButton::clicked, this, [this] { if (AvaaHevostalli) AvaaHevostalli(); });
+
     // Layout: information left, gauges right, list in the middle, buttons along the bottom.
     auto* ylä = new QHBoxLayout;
     ylä->addWidget(tiedot, 0, Qt::AlignTop);
@@ -201,6 +211,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
     ala->addWidget(command5_, 0, 3, Qt::AlignLeft);
+    ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -275,6 +286,7 @@ void Tanhua::Päivitä() {
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
     Näytä(command5_, lue("Command5"));
+    Näytä(hepotalli_, lue("Hepotalli"));
     liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
     if (const Ohjain aste = lue("AsteLuku"); aste.väri)
         asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;")

@@ -51,6 +51,7 @@ public:
     QPushButton* Command5() const { return command5_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
+    QPushButton* Hepotalli() const { return hepotalli_; }
     QLabel* Rahaz() const { return rahaz_; }
     QListWidget* Lista() const { return lista_; }
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
@@ -61,6 +62,7 @@ public:
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
     std::function<void()> AvaaPellot;
+    std::function<void()> AvaaHevostalli;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
     std::function<void()> AvaaSoitin;     // a click on the music player's badge
 
@@ -78,6 +80,7 @@ private:
     std::array<MittariKuva*, 4> mittarit_{};
     QListWidget* lista_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
+    QPushButton* hepotalli_;  // the stable, shown with a stable and a mare
     std::string tausta_;
     QPushButton* command5_;  // "Maa alueet"
     QLabel* playerLogo_;

@@ -77,9 +77,9 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     palk_->setObjectName("palk");
     yliTyö_ = Teksti("", 11, kortti, false);
     yliTyö_->setObjectName("YliTyö");
-    moti_ = Teksti("", 10, kortti, false);
+    moti_ = Teksti("", 12, kortti);
     moti_->setObjectName("Moti");
-    stres_ = Teksti("", 10, kortti, false);
+    stres_ = Teksti("", 12, kortti);
     stres_->setObjectName("Stres");
     mittari_ = new QSlider(Qt::Horizontal, kortti);
     mittari_->setObjectName("mittari");
@@ -127,8 +127,11 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     ylityöt->addWidget(ylityöPäälle_);
     ylityöt->addWidget(ylityöPois_);
     g->addLayout(ylityöt, 9, 0, 1, 3);
-    g->addWidget(moti_, 10, 0, 1, 3);
-    g->addWidget(stres_, 11, 0, 1, 3);
+    // The two gauges of the whole staff under the chosen job's card.
+    g->addWidget(Teksti("Motivaatio :", 11, kortti, false), 10, 0);
+    g->addWidget(moti_, 10, 1, 1, 2);
+    g->addWidget(Teksti("Stressi :", 11, kortti, false), 11, 0);
+    g->addWidget(stres_, 11, 1, 1, 2);
     auto* oikea = new QVBoxLayout;
     oikea->addWidget(kortti);
     oikea->addStretch();

@@ -1,11 +1,12 @@
-// Wage talks: the staff's demand for a rise when their pay falls behind.
+// The wage talks: an underpaid job's workers demand a raise, and a refusal may cost a worker.
 #pragma once
 
 namespace tanhua {
 
 struct Peli;
 
-// Called from the head of the day's events when the staff's motivation runs low.
+// The day's round of talks over the thirteen jobs in their order. Each job takes three draws
+// whether or not it talks; an agreement goes on to the next job, a resignation ends the round.
 void Palkkaneuvottelut(Peli& peli);
 
 }  // namespace tanhua
