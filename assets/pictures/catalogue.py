@@ -443,6 +443,22 @@ pic("Kuvat/Tähti.gif")(lambda: star_pic("#ffcc1a", "#a86a00", "#fff6b0"))
 pic("Kuvat/Tähti2.gif")(lambda: star_pic("#2b2b2b", "#000000", "#777777"))
 
 
+@pic("Kuvat/Puhelin.gif")
+def ringing_phone():
+    """The main screen's phone: an old desk telephone with the rings of its bell either side, on a clear ground."""
+    c = Canvas(64, 64)
+    c.add(S.shadow(32, 57, 20, 3.5, 0.3))
+    c.add(icon("telephone", 10, 12, 44, rotate=-8))
+    for side in (-1, 1):
+        for k, r in enumerate((9, 14)):
+            x0 = 32 + side * (20 + k * 5)
+            c.add(f'<path d="M{x0:.1f},{16 - r * 0.6:.1f} q{side * r * 0.5:.1f},{r * 0.6:.1f} 0,{r * 1.2:.1f}" '
+                  f'fill="none" stroke="#c0392b" stroke-width="2.4" stroke-linecap="round"/>')
+    img = c.render()
+    img.putalpha(img.split()[3].point(lambda v: 255 if v >= 110 else 0))
+    return img
+
+
 def pitchfork(size):
     """The game's pointer: a pitchfork pointing up and left, its middle tine tip at the top left corner."""
     c = Canvas(size, size)

@@ -23,7 +23,7 @@ person-in-suit-levitating christmas-tree santa-claus party-popper confetti-ball 
 abacus broom sponge woman-farmer man-farmer potted-plant tulip cook woman-cook axe factory-worker wrapped-gift
 woman-walking man-walking handshake fountain-pen classical-building coin basket sun sun-behind-small-cloud
 sun-behind-cloud cloud sun-behind-rain-cloud cloud-with-rain cloud-with-snow cloud-with-lightning-and-rain
-glowing-star collision bottle-with-popping-cork automobile accordion musical-notes
+glowing-star collision bottle-with-popping-cork automobile accordion musical-notes telephone
 """.split()
 
 

@@ -1,6 +1,8 @@
 // The riding stable: the day's lessons and their ledger, and the stable screen's operations.
 #include "talli.h"
 
+#include "../racing/ravit.h"
+
 #include <algorithm>
 #include <string>
 
@@ -107,8 +109,8 @@ void VaihdaHinnasto(Peli& peli) {
 }
 
 void OsallistuRaveihin(Peli& peli) {
-    // The race screen comes after the notice; until it is there the notice is all.
-    Ilmoita(peli, std::string(tallit::RaviIlmoitus));
+    // The notice, then the race screen fresh.
+    AvaaRavit(peli);
 }
 
 void OsoitinRaveihin(Peli& peli, bool napilla) { peli.talliruutu.Ravikustannus = napilla; }

@@ -225,8 +225,11 @@ void NollaaRuudut(Peli& peli) {
     peli.peltoruutu = PeltoRuutuTila{};
     peli.kylvöruutu = KylvöRuutuTila{};
     peli.nostoruutu = NostoRuutuTila{};
+    peli.käyrätruutu = KäyrätRuutuTila{};
+    peli.raviruutu = RaviRuutuTila{};
     peli.talliruutu = TalliRuutuTila{};
     peli.soitin.Näkyvissä = false;
+    peli.sopimusruutu = SopimusRuutuTila{};
     peli.käynnissä = false;
 }
 

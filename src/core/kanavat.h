@@ -57,6 +57,11 @@ public:
     virtual void Laatikko(const std::string& teksti) = 0;
     // A text prompt; returns what the player typed, or the default.
     virtual std::string Kehote(const std::string& kysymys, const std::string& oletus) = 0;
+    // A text prompt with a title of its own; empty when the player cancels it.
+    virtual std::string KehoteOtsikolla(const std::string& kysymys, const std::string& /*otsikko*/,
+                                        const std::string& oletus) {
+        return Kehote(kysymys, oletus);
+    }
     // Plays a wave sound by its file name without extension (klik2, virhe, Koputus, ...).
     virtual void Ääni(const std::string& nimi) = 0;
     // Whether a wave output device is there at all.

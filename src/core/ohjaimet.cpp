@@ -18,8 +18,13 @@ const Ohjainluettelo& Ohjaimet() {
         PankkiruudunOhjaimet(l);
         PeltoruudunOhjaimet(l);
         KylvöruudunOhjaimet(l);
+        KäyrätruudunOhjaimet(l);
+        RaviruudunOhjaimet(l);
         HevostalliruudunOhjaimet(l);
+        TilanneruudunOhjaimet(l);
+        ToptenruudunOhjaimet(l);
         SoittimenOhjaimet(l);
+        SopimusruudunOhjaimet(l);
         return l;
     }();
     return luettelo;

@@ -62,8 +62,13 @@ void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
 void PeltoruudunOhjaimet(Ohjainluettelo& l);     // Pellot
 void KylvöruudunOhjaimet(Ohjainluettelo& l);     // Kylvö and Nosto
+void KäyrätruudunOhjaimet(Ohjainluettelo& l);    // Käyrät
+void RaviruudunOhjaimet(Ohjainluettelo& l);      // Ravit
 void HevostalliruudunOhjaimet(Ohjainluettelo& l);  // Hevostalli
+void TilanneruudunOhjaimet(Ohjainluettelo& l);   // Tilanne
+void ToptenruudunOhjaimet(Ohjainluettelo& l);    // Topten
 void SoittimenOhjaimet(Ohjainluettelo& l);       // Tanhua.PlayerLogo, Player, MidiFile, MidiValmis
+void SopimusruudunOhjaimet(Ohjainluettelo& l);   // Sopimukset
 
 // A control by its written name: "Tanhua.Sää", or a member of an array as "Tanhua.TP_Kuva(1)".
 // Empty for a name no screen has, or an index outside the array.

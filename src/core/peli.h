@@ -10,9 +10,12 @@
 #include "../buildings/rakennusruutu.h"
 #include "../buildings/talliruutu.h"
 #include "../buildings/tarvikeruutu.h"
+#include "../contracts/sopimusruutu.h"
 #include "../finance/pankkiruutu.h"
 #include "../land/peltoruutu.h"
 #include "../market/tuoteruutu.h"
+#include "../racing/raviruutu.h"
+#include "../stats/käyrätruutu.h"
 #include "../storage/tallennus.h"
 #include "../workforce/työvoimaruutu.h"
 #include "arvonta.h"
@@ -58,6 +61,7 @@ struct Näkymä {
     std::string MsgTeksti, MsgVastaus;
     Byte MsgTyyli = 0;
     std::vector<std::string> Sopimuksia;  // contract offers waiting on the phone
+    bool Puhelin = false;                // the phone rings: an offer came in since the contracts were last opened
     bool PääruutuNäkyvissä = true;       // false while a sub-screen is open
     bool Command5Käytössä = true, Command9Käytössä = true;  // locked by stars
     std::string Ohje;                    // the hint line
@@ -99,8 +103,11 @@ struct Peli {
     PeltoRuutuTila peltoruutu;        // the land screen's card, lot and forester's panel
     KylvöRuutuTila kylvöruutu;        // the sowing plan and its sheet
     NostoRuutuTila nostoruutu;        // the harvest estimate and its sheet
+    KäyrätRuutuTila käyrätruutu;      // the statistics screen's labels and plot
+    RaviRuutuTila raviruutu;          // the race-betting screen, fresh at each opening
     TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger
     Soitin soitin;                    // the songs and the music player's panel
+    SopimusRuutuTila sopimusruutu;    // the contracts screen's call, sheets and choice
     // On while a save's values are read: the switches it sets stay silent.
     bool Ladataan = false;
     bool käynnissä = false;   // a farm has been started or opened

@@ -56,7 +56,7 @@ void TavoiteTarkastus(Peli& peli) {
     Muuttujat& m = peli.m;
     if (m.PeliMoodi == "Miljoona" && static_cast<double>(m.Tili) + m.Raha - m.Laina >= 1000000.0) {
         Ilmoita(peli, "Tavoitteesi oli kerätä miljoona ja olet päässyt tavoitteeseesi");
-        LoppuJuttu(peli);
+        MiljoonaSaavutettu(peli);
     }
     if (m.PeliMoodi == "10 vuotta" && m.Vuosi == 1990) {
         Ilmoita(peli, "10 vuotta on kulunut, kun aloitit tilasi pitämisen. Olet päässyt nyt tavoitteeseen.");

@@ -89,6 +89,19 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
     yksi("Command5", [](const Peli& p) {
         return Näkyvä("Maa alueet", p.näkymä.PääruutuKäytössä && p.näkymä.Command5Käytössä);
     });
+
+    // The contracts: the button, and the phone that rings while an offer waits.
+    yksi("Command10", [](const Peli& p) { return Näkyvä("Sopimukset", p.näkymä.PääruutuKäytössä); });
+    yksi("Puhelin", [](const Peli& p) {
+        if (!p.näkymä.Puhelin) return Piilossa();
+        Ohjain o = Näkyvä("Puhelin.gif", p.näkymä.PääruutuKäytössä);
+        o.vihje = "Sinulle on jätetty soittopyyntö sopimuksesta";
+        return o;
+    });
+    // The statistics screen's button.
+    yksi("Stat", [](const Peli& p) { return Näkyvä("Statistiikka", p.näkymä.PääruutuKäytössä); });
+    // The Tilanne screen's button: where the career stands, the saves and retirement.
+    yksi("Command7", [](const Peli& p) { return Näkyvä("Tilanne", p.näkymä.PääruutuKäytössä); });
 }
 
 }  // namespace tanhua

@@ -38,8 +38,11 @@ void PankinToiminnot(Toimintoluettelo& t);        // the bank screen: loan, depo
 void TarvikkeidenToiminnot(Toimintoluettelo& t);  // the supplies shop
 void TilanteenToiminnot(Toimintoluettelo& t);     // the save panel and the start screen's continue
 void MaidenToiminnot(Toimintoluettelo& t);        // the land screen, the forester, the grain, sowing and harvest
+void KäyrienToiminnot(Toimintoluettelo& t);       // the statistics screen
+void RavienToiminnot(Toimintoluettelo& t);        // the race-betting screen
 void TallinToiminnot(Toimintoluettelo& t);        // the riding stable, motivation and the wage talks
 void SoittimenToiminnot(Toimintoluettelo& t);     // sounds, songs and the music player's panel
+void SopimustenToiminnot(Toimintoluettelo& t);    // the phone, the contracts screen and the month's delivery
 
 // A press a player couldn't make (a hidden or disabled control, a row that is not on the list, a
 // screen the stars keep locked): the operation throws this before it changes anything, and the

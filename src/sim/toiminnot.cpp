@@ -55,7 +55,9 @@ constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset",
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
                                {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
                                {"Pellot", "Tanhua.Command5"},
-                               {"Hevostalli", "Tanhua.Hepotalli"}};
+                               {"Käyrät", "Tanhua.Stat"},
+                               {"Hevostalli", "Tanhua.Hepotalli"},
+                               {"Sopimukset", "Tanhua.Command10"}};
 
 struct Poistuminen {
     const char* toiminto;
@@ -70,7 +72,11 @@ const Poistuminen POISTUMISET[] = {
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
     {"Pellot.Sulje", Aina},
+    {"Käyrät.Sulje", Aina},
+    {"Käyrät.Command2", Aina},
     {"Hevostalli.Sulje", Aina},
+    // A call open on the contracts screen keeps the player there.
+    {"Sopimukset.Sulje", [](const Peli& p) { return !p.sopimusruutu.Puhelussa; }},
 };
 
 void Siirtymät(Toimintoluettelo& t) {
@@ -145,8 +151,11 @@ const Toimintoluettelo& Toiminnot() {
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
         MaidenToiminnot(t);
+        KäyrienToiminnot(t);
+        RavienToiminnot(t);
         TallinToiminnot(t);
         SoittimenToiminnot(t);
+        SopimustenToiminnot(t);
         Siirtymät(t);
         return t;
     }();

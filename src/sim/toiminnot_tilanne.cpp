@@ -1,11 +1,15 @@
-// The runner's operations of the save panel: saving and opening a farm by name, and the start
-// screen's "Jatka tilannetta".
+// The runner's operations of the Tilanne screen (the score, the save panel, retirement and the
+// story), of the top-ten screen, and the start screen's "Jatka tilannetta".
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "career/tilanne.h"
 #include "core/alku.h"
+#include "core/pääruutu.h"
 #include "skripti.h"
 #include "storage/tallennus.h"
+#include "storage/topten.h"
 
 namespace tanhua {
 
@@ -19,14 +23,58 @@ Toiminto NimelläNappi(bool (*nappi)(Peli&)) {
                     }};
 }
 
+// A button of the top-ten screen, pressed only while the screen shows.
+Toiminto ToptenNappi(const char* ohjain, void (*f)(Peli&)) {
+    return Toiminto{0, 0, [ohjain, f](Peli& peli, const std::vector<std::string>&) {
+                        if (!peli.tilanneruutu.Topten.auki) Ohita();
+                        VaadiPainettava(peli, ohjain);
+                        f(peli);
+                    }};
+}
+
 }  // namespace
 
 void TilanteenToiminnot(Toimintoluettelo& t) {
     t["Tilanne.Tallenna"] = NimelläNappi(TallennaNappi);
     t["Tilanne.AvaaTilanne"] = NimelläNappi(AvaaNappi);
+    t["Tilanne.Poista"] = NimelläNappi([](Peli& peli) {
+        PoistaTilanne(peli);
+        return true;
+    });
     Toiminto jatka = Pelkkä([](Peli& peli) { JatkaTilannetta(peli); });
     jatka.tilaton = true;
     t["JatkaTilannetta"] = jatka;
+
+    // The main screen's Command7: the main screen hides, the score is printed.
+    t["Tilanne.Avaa"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                     VaadiPainettava(peli, "Tanhua.Command7");
+                                     AvaaAlaruutu(peli, [&] { AvaaTilanneRuutu(peli); });
+                                 }};
+    t["Tilanne.Sulje"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                      VaadiPainettava(peli, "Tilanne.Command3");
+                                      if (SuljeTilanneRuutu(peli)) PalaaPääruutuun(peli);
+                                  }};
+    t["Tilanne.Esc"] = EscNäppäin(TilanneEsc);
+    t["Tilanne.AvaaTallenna"] = Painallus("Tilanne.Command1", AvaaPaneeli);
+    t["Tilanne.SuljePaneeli"] = Painallus("Tilanne.Command2", SuljePaneeli);
+    // A click on a file of the panel's list; a file not listed can't be clicked.
+    t["Tilanne.ValitseTiedosto"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
+                                                VaadiPainettava(peli, "Tilanne.File1");
+                                                const auto& lista = peli.tilanneruutu.Tiedostot;
+                                                if (std::find(lista.begin(), lista.end(), a[0]) == lista.end()) Ohita();
+                                                ValitseTiedosto(peli, a[0]);
+                                            }};
+    t["Tilanne.JääEläkkeelle"] = Painallus("Tilanne.Command4", JääEläkkeelle);
+    t["Tilanne.SuljeTarina"] = Painallus("Tilanne.TarinaSulje", SuljeTarina);
+    t["Tilanne.EnnätysListat"] = Painallus("Tilanne.Command8", EnnätysListat);
+    t["Topten.Sulje"] = ToptenNappi("Topten.Command1", SuljeTopten);
+    t["Topten.TyhjennäListat"] = ToptenNappi("Topten.Command2", TyhjennäListat);
+
+    // The steps by their own names.
+    t["LaskePisteet"] = Pelkkä(LaskePisteet);
+    t["LoppuJuttu"] = Pelkkä(LoppuJuttu);
+    t["NäytäListat"] = Pelkkä(NäytäListat);
+    t["LaskeListat"] = Pelkkä(LaskeListat);
 }
 
 }  // namespace tanhua

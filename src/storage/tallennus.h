@@ -4,15 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "../career/tilanneruutu.h"
+
 namespace tanhua {
 
 struct Peli;
-
-// The save panel of the Tilanne screen: the name box and the saves listed in the data folder.
-struct TilanneRuutuTila {
-    std::string Kohde;                    // the name typed or picked
-    std::vector<std::string> Tiedostot;   // the .sav files of the data folder, as listed
-};
 
 // The farm's values as the save's lines, before the shift: one text a line, in the file's order.
 std::vector<std::string> TilanteenRivit(const Peli& peli);

@@ -63,7 +63,8 @@ Hevostalli::Hevostalli(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     ravit_->setMouseTracking(true);
     ravit_->installEventFilter(this);
     connect(hinnasto_, &QPushButton::clicked, this, [this] { ikkuna_.Toimi([this] { VaihdaHinnasto(peli_); }); });
-    connect(ravit_, &QPushButton::clicked, this, [this] { ikkuna_.Toimi([this] { OsallistuRaveihin(peli_); }); });
+    // The notice, then the race screen; its close button comes back here.
+    connect(ravit_, &QPushButton::clicked, this, [this] { ikkuna_.AvaaRavit(this); });
     auto* g = new QGridLayout(talli);
     g->addWidget(Teksti("Laidunta, ha :", 12, talli, false), 0, 0);
     g->addWidget(laidun_, 0, 1);

@@ -8,6 +8,8 @@
 #include "Tuotteet.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Sopimukset.h"
+#include "contracts/sopimukset.h"
 #include "Asetukset.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
@@ -15,9 +17,18 @@
 #include "Kylvö.h"
 #include "land/kylvö.h"
 #include "land/pellot.h"
+#include "Käyrät.h"
+#include "Ravit.h"
+#include "racing/ravit.h"
+#include "stats/käyrät.h"
 #include "Hevostalli.h"
 #include "buildings/talli.h"
 #include "workforce/neuvottelut.h"
+#include "Tilanne.h"
+#include "Topten.h"
+#include "career/tilanne.h"
+#include "storage/tallennus.h"
+#include "storage/topten.h"
 #include "animals/kauppa.h"
 #include "buildings/rakentaminen.h"
 #include "buildings/tarvikkeet.h"
@@ -39,6 +50,7 @@
 #include <QTemporaryDir>
 // std
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <vector>
 
@@ -58,6 +70,9 @@ public:
     std::function<std::string(const std::string&, int)> kysyttäessä;
     void Laatikko(const std::string&) override {}
     std::string Kehote(const std::string&, const std::string& oletus) override { return oletus; }
+    std::string KehoteOtsikolla(const std::string&, const std::string&, const std::string& oletus) override {
+        return oletus;
+    }
     bool Vikalaatikko(const std::string&, int, const std::string&) override { return true; }
     void Ääni(const std::string&) override {}
     bool ÄäniLaite() override { return true; }
@@ -117,7 +132,7 @@ bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
     // No wage talks, the day's draw, number 20; the barn, the second picture, its loss and claim.
     for (double r : {0.5, 0.0, 19.5 / 60, 0.1, 0.7, 0.5, 0.3}) peli.arvonta.Jonoon(r);
     tanhua::Sattumat(peli);
-    ok &= Tallenna(&w, kansio, "17-Sattuma.png");
+    ok &= Tallenna(&w, kansio, "30-Sattuma.png");
     w.uutiset()->Command1()->click();
 
     const std::string uhkaus = "Maksa suojeluraha, niin navettasi ei syty niin herkästi tuleen";
@@ -132,8 +147,8 @@ bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
         const QPixmap laatikko = w.message()->grab();
         maalari.drawPixmap((w.width() - laatikko.width()) / 2, (w.height() - laatikko.height()) / 2, laatikko);
     }
-    const bool tallennettu = kuva.save(kansio.filePath("18-Suojeluraha.png"));
-    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("18-Suojeluraha.png").toStdString().c_str());
+    const bool tallennettu = kuva.save(kansio.filePath("31-Suojeluraha.png"));
+    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("31-Suojeluraha.png").toStdString().c_str());
     w.message()->hide();
     w.uutiset()->Command1()->click();
     return ok && tallennettu;
@@ -141,6 +156,49 @@ bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
 }  // namespace
 
 namespace {
+bool KäyrätJaRavit(Näyttämö& n, const QDir& kansio) {
+    Pääikkuna& w = n.ikkuna;
+    Peli& peli = n.peli;
+    bool ok = true;
+    // Cash and a fuller silo for the two years.
+    Aseta(peli.m.Koko_Siilo, 2000);
+    Aseta(peli.m.Var[Rehu], 2000);
+    Aseta(peli.m.Raha, peli.m.Raha + 40000);
+    while (peli.m.Vuosi < 1982 || peli.m.Kuukausi < 6) {
+        w.SeuraavaPäivä();
+        if (peli.näkymä.RaporttiAuki) w.raportti()->Command1()->click();
+        if (peli.näkymä.IkkunaNäkyvissä) w.uutiset()->Command1()->click();
+    }
+    w.AvaaRuutu(w.käyrät());
+    PiirräKäyrä(peli, KäyräRaha);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "26-Kayrat-Rahatila.png");
+    TuotteidenNetto(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "27-Kayrat-Taulu.png");
+    w.käyrät()->Command(2)->click();
+
+    w.AvaaRavit();
+    LyöVetoa(peli);
+    ValitseVetolaji(peli, vetolaji::Voittajaveto);
+    NäytäRivi(peli, 0);
+    ValitseKerroin(peli, 3);
+    for (int i = 0; i < 3; ++i) NostaPanosta(peli);
+    HyväksyKuponki(peli);
+    LyöVetoa(peli);
+    ValitseVetolaji(peli, vetolaji::Trio);
+    NäytäRivi(peli, 1);
+    for (int rivi : {2, 6, 0}) MerkitseHevonen(peli, rivi);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "28-Ravit.png");
+    // The same screens in the 800 x 600 design.
+    w.resize(800, 600);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "29-Ravit-800x600.png");
+    w.ravit()->Command(1)->click();
+    return ok;
+}
+
 // The production panels: a dairy slowed on its slider, a feed plant after a month's work, and the
 // packing plant with its conveyor. The three buildings are chosen unbuilt first, as a player
 // ordering them would, which starts them at full output.
@@ -286,6 +344,31 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.tarvikkeet()->Command1()->click();
     Aseta(peli.m.TähtiLukitus, true);
 
+    // The contracts: the phone ringing, a call with its terms, and the three slots taken.
+    peli.näkymä.Sopimuksia = {"Maito", "Muna"};
+    peli.näkymä.Puhelin = true;
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "23-Tanhua-Puhelin.png");
+    w.AvaaRuutu(w.sopimukset());
+    UudetSopimukset(peli);
+    ValitseTarjous(peli, 0);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "24-Sopimukset-Puhelu.png");
+    HylkääTarjous(peli);
+    const std::array<Sopimus, SOPIMUSPAIKKOJA> paikat{Sopimus{"Maito", 450, 2700, 3600, 17},
+                                                     Sopimus{"Muna", 120, 480, 640, 9},
+                                                     Sopimus{"Puu", 30, 1800, 2400, 12}};
+    peli.m.Sop = paikat;
+    SuljeTarjoukset(peli);
+    NäytäSopimukset(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "25-Sopimukset-Paikat.png");
+    w.sopimukset()->Command1()->click();
+    // The month end that follows has no contract notice to wait for.
+    peli.m.Sop = {};
+    peli.näkymä.Sopimuksia.clear();
+    peli.näkymä.Puhelin = false;
+
     while (!peli.näkymä.RaporttiAuki) w.SeuraavaPäivä();
     ok &= Tallenna(&w, kansio, "06-Raportti.png");
     w.raportti()->Command1()->click();
@@ -336,6 +419,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     asetukset.show();
     ok &= Tallenna(&asetukset, kansio, "17-Asetukset.png");
     asetukset.hide();
+
     ok &= KuvaaTuotanto(n, kansio);
 
     // A riding stable of five horses on three hectares with two masters: two weeks of lessons in the
@@ -360,7 +444,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.AvaaRuutu(w.hevostalli());
     VaihdaHinnasto(peli);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "23-Hevostalli.png");
+    ok &= Tallenna(&w, kansio, "32-Hevostalli.png");
     w.hevostalli()->Command1()->click();
 
     // The staff screen with both gauges: a well-paid staff, some of it on overtime; every job listed.
@@ -374,7 +458,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     YlityöPäälle(peli);
     ValitseTyöläinen(peli, Tallimestari);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "24-Tyovoima-mittarit.png");
+    ok &= Tallenna(&w, kansio, "33-Tyovoima-mittarit.png");
     w.työvoima()->Command1()->click();
     Aseta(peli.m.TähtiLukitus, true);
 
@@ -389,7 +473,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
         if (!kuvattu && tyyli == 1) {
             kuvattu = true;
             w.message()->Valmistele(teksti, tyyli);
-            ok &= TallennaKysymyksenKanssa(w, kansio, "25-Palkkaneuvottelu.png");
+            ok &= TallennaKysymyksenKanssa(w, kansio, "34-Palkkaneuvottelu.png");
         }
         return std::string(tyyli == 1 ? KYLLÄ : VASTATTU);
     };
@@ -397,10 +481,66 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     n.kanavat.kysyttäessä = nullptr;
     ok &= kuvattu;
     ok &= Maakuvat(w, peli, kansio);
+    // Two years of the farm in the curves, last month's net table, and a coupon at the races.
+    ok &= KäyrätJaRavit(n, kansio);
+
+    // The Tilanne screen: the score, then the panel with two saves listed, the story, the list.
+    w.PalaaPääruutuun();
+    TallennaTilanne(peli, "Kesä1980");
+    TallennaTilanne(peli, "Joulu");
+    w.AvaaRuutu(w.tilanne());
+    ok &= Tallenna(&w, kansio, "35-Tilanne.png");
+    AvaaPaneeli(peli);
+    ValitseTiedosto(peli, "Joulu.sav");
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "36-Tilanne-Tallenna.png");
+    SuljePaneeli(peli);
+    LoppuJuttu(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "37-Tarina.png");
+    peli.tilanneruutu.Pisteet = 75;
+    SuljeTarina(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "38-Topten.png");
     return ok ? 0 : 1;
 }
 
 namespace {
+// A 600-month cash curve worked out and painted at two window sizes, and a coupon accepted with the
+// most participants the draw can give (P = 300 099, 300 105 draws): each within a frame at 60 Hz.
+void MittaaKäyräJaKuponki(Näyttämö& n) {
+    Peli& peli = n.peli;
+    Pääikkuna& w = n.ikkuna;
+    peli.m.Käyrät.Rahatila.clear();
+    for (int i = 0; i < 600; ++i) peli.m.Käyrät.Rahatila.push_back(Str(5000000.0 + 4000000.0 * std::sin(i / 40.0)));
+    w.AvaaRuutu(w.käyrät());
+    QElapsedTimer kello;
+    for (QSize koko : {QSize(800, 600), QSize(1920, 1080)}) {
+        w.resize(koko);
+        QApplication::processEvents();
+        kello.start();
+        PiirräKäyrä(peli, KäyräRaha);
+        w.käyrät()->Taulu()->repaint();
+        std::printf("A 600-item curve worked out and its plot painted at %dx%d: %.2f ms (a frame is 16.7 ms)\n",
+                    koko.width(), koko.height(), static_cast<double>(kello.nsecsElapsed()) / 1e6);
+    }
+    w.käyrät()->Command(2)->click();
+    w.AvaaRavit();
+    LyöVetoa(peli);
+    peli.raviruutu.Vetolaji = vetolaji::Voittajaveto;
+    peli.arvonta.Jonoon(0.5);
+    peli.arvonta.Jonoon(0.99999999);  // P = D(300000) + 100 = 300099
+    kello.start();
+    HyväksyKuponki(peli);
+    const double arvonta = static_cast<double>(kello.nsecsElapsed()) / 1e6;
+    w.Päivitä();
+    w.ravit()->Tulos()->repaint();
+    std::printf("A coupon accepted (\"%s\"): %.2f ms, %.2f ms with its sheet painted\n",
+                peli.raviruutu.tulos[2].teksti.c_str(), arvonta, static_cast<double>(kello.nsecsElapsed()) / 1e6);
+    w.ravit()->Command(1)->click();
+    w.resize(1024, 768);
+}
+
 // The draws a day would take before its events, found by playing the day on a copy of the farm and
 // the generator and then putting both back.
 std::vector<double> DrawsBeforeTheEvents(Peli& peli) {
@@ -448,8 +588,37 @@ void MittaaSattumat(Näyttämö& n) {
     std::printf("  median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", ajat[ajat.size() / 2],
                 ajat[ajat.size() * 95 / 100], ajat.back());
 }
+// The mean and the slowest of a run of timings, in milliseconds.
+void Kerro(const char* mikä, std::vector<double> ajat) {
+    std::sort(ajat.begin(), ajat.end());
+    double summa = 0;
+    for (double t : ajat) summa += t;
+    std::printf("  %s: mean %.2f ms, median %.2f ms, slowest %.2f ms\n", mikä, summa / ajat.size(),
+                ajat[ajat.size() / 2], ajat.back());
+}
 }  // namespace
 
+void MittaaTallennus(Peli& peli) {
+    // Fifty years of month ends: 600 entries in each of the six chart lists.
+    KäyrätRuutu& k = peli.m.Käyrät;
+    for (auto* lista : {&k.LV, &k.Netto, &k.Rahatila, &k.YHTPalkat, &k.Eläimiä, &k.Rakennuksia}) {
+        lista->clear();
+        for (int kuukausi = 0; kuukausi < 600; ++kuukausi) lista->push_back(Str(123456.7 + kuukausi * 17));
+    }
+    std::vector<double> tallennus, avaus;
+    QElapsedTimer kello;
+    for (int kerta = 0; kerta < 50; ++kerta) {
+        kello.start();
+        TallennaTilanne(peli, "Mittari");
+        tallennus.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+        kello.start();
+        AvaaTilanne(peli, "Mittari");
+        avaus.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+    }
+    std::printf("A 50-year farm (600 entries in each chart list), 50 times each:\n");
+    Kerro("TallennaTilanne", tallennus);
+    Kerro("AvaaTilanne", avaus);
+}
 namespace {
 // The day on a farm where every chain works: all thirteen buildings at level 5, ten workers in each
 // job on overtime, every device owned and raw stock to work on for the whole year.
@@ -509,12 +678,12 @@ bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio) {
     ValitseMaa(peli, MaaPelto);
     plus(peli);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "26-Pellot.png");
+    ok &= Tallenna(&w, kansio, "39-Pellot.png");
     PellotEsc(peli);
     AvaaMetsuriValikko(peli);
     AsetaMetsitä(peli, true);
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "27-Pellot-Metsuri.png");
+    ok &= Tallenna(&w, kansio, "40-Pellot-Metsuri.png");
     PellotEsc(peli);
     // The sowing screen is closed to play; the picture is taken of it all the same.
     AvaaKylvö(peli);
@@ -528,7 +697,7 @@ bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio) {
     AsetaMyrkytetään(peli, true);
     w.pino()->setCurrentWidget(w.kylvö());
     w.Päivitä();
-    ok &= Tallenna(&w, kansio, "28-Kylvo.png");
+    ok &= Tallenna(&w, kansio, "41-Kylvo.png");
     PeruutaKylvö(peli);
     w.pino()->setCurrentWidget(w.pellot());
     w.pellot()->Command1()->click();
@@ -592,6 +761,10 @@ int MittaaPäivä(const Kansiot& kansiot) {
     AsetaAutomyynti(n.peli, Muna, true);
     AsetaAutomyynti(n.peli, Maito, true);
     AsetaAutomyynti(n.peli, Rehu, true);
+    // Three contracts running all year on the sheep's wool, which no sale takes.
+    // A stock of its own, so that no month breaks one and waits on its notice.
+    for (Sopimus& s : m.Sop) s = Sopimus{"Villa", 1, 10, 40, 17};
+    Aseta(m.Var[Villa], 100000);
     std::vector<double> ajat;
     QElapsedTimer kello;
     for (int päivä = 0; päivä < 360; ++päivä) {
@@ -610,6 +783,9 @@ int MittaaPäivä(const Kansiot& kansiot) {
     MittaaSattumat(n);
     const int jalostus = MittaaJalostus(kansiot);
     return jalostus != 0 ? jalostus : MittaaMaat(kansiot);
+    MittaaKäyräJaKuponki(n);
+    MittaaTallennus(n.peli);
+    return MittaaJalostus(kansiot);
 }
 
 }  // namespace tanhua::ui

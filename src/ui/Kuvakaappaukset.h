@@ -12,5 +12,7 @@ namespace tanhua::ui {
 int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& kansio);
 // Times presses of "Seuraava päivä" with the main screen repainted, on a farm of a thousand animals.
 int MittaaPäivä(const Kansiot& kansiot);
+// Times saving and opening a farm of fifty years.
+void MittaaTallennus(Peli& peli);
 
 }  // namespace tanhua::ui

@@ -11,9 +11,15 @@
 #include "Pellot.h"
 #include "Kylvö.h"
 #include "Nosto.h"
+#include "Käyrät.h"
+#include "Ravit.h"
+#include "racing/ravit.h"
 #include "Hevostalli.h"
+#include "Tilanne.h"
+#include "Topten.h"
 #include "Player.h"
 #include "core/musiikki.h"
+#include "Sopimukset.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
 #include "core/päivä.h"
@@ -52,6 +58,18 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     kylvö_ = new Kylvö(peli_, *this, pino_);
     nosto_ = new Nosto(peli_, *this, pino_);
     for (QWidget* ruutu : std::initializer_list<QWidget*>{pellot_, kylvö_, nosto_}) pino_->addWidget(ruutu);
+    // The contracts screen, opened by its button or the ringing phone.
+    sopimukset_ = new Sopimukset(peli_, *this, pino_);
+    pino_->addWidget(sopimukset_);
+    tanhua_->AvaaSopimukset = [this] { AvaaRuutu(sopimukset_); };
+    käyrät_ = new Käyrät(peli_, *this, pino_);
+    ravit_ = new Ravit(peli_, *this, pino_);
+    pino_->addWidget(käyrät_);
+    pino_->addWidget(ravit_);
+    tilanne_ = new Tilanne(peli_, *this, pino_);
+    topten_ = new Topten(peli_, *this, pino_);
+    pino_->addWidget(tilanne_);
+    pino_->addWidget(topten_);
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
@@ -103,8 +121,17 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     kylvö_->Palaa = nosto_->Palaa = [this] {
         pino_->setCurrentWidget(pellot_);
         Päivitä();
+    tanhua_->AvaaKäyrät = [this] { AvaaRuutu(käyrät_); };
+    ravit_->Suljettu = [this] {
+        if (raviPaluu_) {
+            pino_->setCurrentWidget(raviPaluu_);
+            Päivitä();
+        } else {
+            PalaaPääruutuun();
+        }
     };
     tanhua_->AvaaHevostalli = [this] { AvaaRuutu(hevostalli_); };
+    tanhua_->AvaaTilanne = [this] { AvaaRuutu(tilanne_); };
     raportti_->Suljettu = [this] {
         // The market report goes back to the bank, the month's report to the main screen.
         if (peli_.pankkiruutu.auki) {
@@ -194,7 +221,7 @@ void Pääikkuna::Toimi(const std::function<void()>& toiminto) {
 }
 
 void Pääikkuna::Päivitä() {
-    QWidget* nyt = pino_->currentWidget();
+    QWidget* nyt = UranRuutu(pino_->currentWidget());
     if (nyt == tanhua_) {
         Päivitälukemat(peli_);
         tanhua_->Päivitä();
@@ -217,8 +244,18 @@ void Pääikkuna::Päivitä() {
         kylvö_->Päivitä();
     } else if (nyt == nosto_) {
         nosto_->Päivitä();
+    } else if (nyt == käyrät_) {
+        käyrät_->Päivitä();
+    } else if (nyt == ravit_) {
+        ravit_->Päivitä();
     } else if (nyt == hevostalli_) {
         hevostalli_->Päivitä();
+    } else if (nyt == sopimukset_) {
+        sopimukset_->Päivitä();
+    } else if (nyt == tilanne_) {
+        tilanne_->Päivitä();
+    } else if (nyt == topten_) {
+        topten_->Päivitä();
     }
     const bool alaruutu = OnAlaruutu(nyt);
     kyltti_->setVisible(alaruutu);
@@ -239,7 +276,10 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
             if (ruutu == pellot_) pellot_->Avaa();
+            if (ruutu == käyrät_) käyrät_->Avaa();
             if (ruutu == hevostalli_) hevostalli_->Avaa();
+            if (ruutu == sopimukset_) sopimukset_->Avaa();
+            if (ruutu == tilanne_) tilanne_->Avaa();
         });
     });
     // The main form folds to its middle line and stays small; the screen opens from it; the main
@@ -256,6 +296,13 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
     tanhua_->setGeometry(sivu);
     tanhua_->setEnabled(peli_.näkymä.PääruutuKäytössä);
     AsetteleKyltti();
+}
+
+void Pääikkuna::AvaaRavit(QWidget* paluu) {
+    raviPaluu_ = paluu;
+    Toimi([this] { tanhua::AvaaRavit(peli_); });
+    pino_->setCurrentWidget(ravit_);
+    Päivitä();
 }
 
 void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
@@ -315,7 +362,17 @@ void Pääikkuna::Lopeta() {
 
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
-           ruutu == tarvikkeet_ || ruutu == hevostalli_ || ruutu == pellot_ || ruutu == kylvö_ || ruutu == nosto_;
+           ruutu == tarvikkeet_ || ruutu == käyrät_ || ruutu == hevostalli_ || ruutu == sopimukset_ ||
+           ruutu == tilanne_ || ruutu == pellot_ || ruutu == kylvö_ || ruutu == nosto_;
+}
+
+QWidget* Pääikkuna::UranRuutu(QWidget* nyt) {
+    const TilanneRuutuTila& t = peli_.tilanneruutu;
+    QWidget* oikea = nyt;
+    if (t.Topten.auki && !t.auki && (nyt == tilanne_ || nyt == tanhua_)) oikea = topten_;
+    else if (t.auki && !t.Topten.auki && (nyt == topten_ || (nyt == tanhua_ && t.Tarina))) oikea = tilanne_;
+    if (oikea != nyt) pino_->setCurrentWidget(oikea);
+    return oikea;
 }
 
 void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }

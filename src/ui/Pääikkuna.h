@@ -28,7 +28,12 @@ class Tarvikkeet;
 class Pellot;
 class Kylvö;
 class Nosto;
+class Käyrät;
+class Ravit;
 class Hevostalli;
+class Sopimukset;
+class Tilanne;
+class Topten;
 
 class Pääikkuna : public QMainWindow {
 public:
@@ -75,7 +80,15 @@ public:
     Pellot* pellot() const { return pellot_; }
     Kylvö* kylvö() const { return kylvö_; }
     Nosto* nosto() const { return nosto_; }
+    Käyrät* käyrät() const { return käyrät_; }
+    Ravit* ravit() const { return ravit_; }
+    // The stable's "Osallistu raveihin": the notice, then the race screen fresh; closing it goes back
+    // to `paluu` (the stable), or to the main screen without one.
+    void AvaaRavit(QWidget* paluu = nullptr);
     Hevostalli* hevostalli() const { return hevostalli_; }
+    Sopimukset* sopimukset() const { return sopimukset_; }
+    Tilanne* tilanne() const { return tilanne_; }
+    Topten* topten() const { return topten_; }
     QStackedWidget* pino() const { return pino_; }
     Peli& peli() { return peli_; }
 
@@ -92,6 +105,8 @@ protected:
 private:
     void AsetteleKyltti();
     bool OnAlaruutu(QWidget* ruutu) const;
+    // The Tilanne and top-ten screens lead to each other, and the story keeps its screen up.
+    QWidget* UranRuutu(QWidget* nyt);
     void LataaKursorit();
     // A screen folding to its middle line (or opening from it) by the rounds the rules give.
     void Taita(QWidget* lomake, const Taitto& taitto);
@@ -111,7 +126,13 @@ private:
     Pellot* pellot_;
     Kylvö* kylvö_;
     Nosto* nosto_;
+    Käyrät* käyrät_;
+    Ravit* ravit_;
+    QWidget* raviPaluu_ = nullptr;
     Hevostalli* hevostalli_;
+    Sopimukset* sopimukset_;
+    Tilanne* tilanne_;
+    Topten* topten_;
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;

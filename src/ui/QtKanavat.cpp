@@ -53,6 +53,15 @@ std::string QtKanavat::Kehote(const std::string& kysymys, const std::string& ole
     return ok ? vastaus.toStdString() : oletus;
 }
 
+std::string QtKanavat::KehoteOtsikolla(const std::string& kysymys, const std::string& otsikko,
+                                       const std::string& oletus) {
+    // A cancelled prompt gives nothing, as the player typed nothing.
+    bool ok = false;
+    const QString vastaus = QInputDialog::getText(ikkuna_, QString::fromStdString(otsikko), QString::fromStdString(kysymys),
+                                                  QLineEdit::Normal, QString::fromStdString(oletus), &ok);
+    return ok ? vastaus.toStdString() : std::string();
+}
+
 void QtKanavat::Ääni(const std::string& nimi) { soitin_.Soita(nimi); }
 
 bool QtKanavat::ÄäniLaite() { return soitin_.Laite(); }

@@ -22,6 +22,8 @@ public:
     void Loppu() override;
     void Laatikko(const std::string& teksti) override;
     std::string Kehote(const std::string& kysymys, const std::string& oletus) override;
+    std::string KehoteOtsikolla(const std::string& kysymys, const std::string& otsikko,
+                                const std::string& oletus) override;
     void Ääni(const std::string& nimi) override;
     bool ÄäniLaite() override;
     void MidiAlusta() override;

@@ -181,6 +181,24 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     command5_->setMinimumSize(150, 40);
     Ohje("Command5", command5_);
     connect(command5_, &QPushButton::clicked, this, [this] { if (AvaaPellot) AvaaPellot(); });
+    // The statistics screen's button.
+    stat_ = new QPushButton("Statistiikka", this);
+    stat_->setObjectName("Stat");
+    stat_->setToolTip("Statistiikkaa menestyksestäsi");
+    Teksturoi(peli_, stat_, "nappi.jpg", 12, 14);
+    stat_->setMinimumSize(150, 40);
+    Ohje("Stat", stat_);
+    stat_->installEventFilter(this);
+    connect(stat_, &QPushButton::clicked, this, [this] { if (AvaaKäyrät) AvaaKäyrät(); });
+    // The Tilanne screen's button: the score, the saves and retirement.
+    command7_ = new QPushButton("Tilanne", this);
+    command7_->setObjectName("Command7");
+    command7_->setToolTip("Tilanteen tallentaminen sekä eläke");
+    Teksturoi(peli_, command7_, "nappi.jpg", 12, 14);
+    command7_->setMinimumSize(150, 40);
+    Ohje("Command7", command7_);
+    command7_->installEventFilter(this);
+    connect(command7_, &QPushButton::clicked, this, [this] { if (AvaaTilanne) AvaaTilanne(); });
 
     // The stable's button, shown only with a stable and a mare.
     hepotalli_ = new QPushButton("Hevostalli", this);
@@ -191,6 +209,21 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     Ohje("Hepotalli", hepotalli_);
     hepotalli_->hide();
     connect(hepotalli_, &QPushButton::clicked, this, [this] { if (AvaaHevostalli) AvaaHevostalli(); });
+    // The contracts: their button, and the phone on the top row while a request waits.
+    command10_ = new QPushButton("Sopimukset", this);
+    command10_->setObjectName("Command10");
+    Teksturoi(peli_, command10_, "nappi.jpg", 12, 14);
+    command10_->setMinimumSize(150, 40);
+    Ohje("Command10", command10_);
+    command10_->installEventFilter(this);
+    connect(command10_, &QPushButton::clicked, this, [this] { if (AvaaSopimukset) AvaaSopimukset(); });
+    puhelin_ = new QLabel(this);
+    puhelin_->setObjectName("Puhelin");
+    puhelin_->setFixedSize(72, 72);
+    puhelin_->setAlignment(Qt::AlignCenter);
+    puhelin_->setCursor(Qt::PointingHandCursor);
+    puhelin_->hide();
+    Ohje("Puhelin", puhelin_);
 
     // Layout: information left, gauges right, list in the middle, buttons along the bottom.
     auto* ylä = new QHBoxLayout;
@@ -198,6 +231,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ylä->addStretch();
     ylä->addWidget(tähtirivi, 0, Qt::AlignTop);
     ylä->addStretch();
+    ylä->addWidget(puhelin_, 0, Qt::AlignTop);
     ylä->addWidget(mittarit, 0, Qt::AlignTop);
     auto* keski = new QHBoxLayout;
     keski->addStretch();
@@ -211,7 +245,10 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
     ala->addWidget(command5_, 0, 3, Qt::AlignLeft);
+    ala->addWidget(stat_, 0, 3, Qt::AlignLeft);
     ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
+    ala->addWidget(command10_, 2, 0);
+    ala->addWidget(command7_, 0, 3, Qt::AlignLeft);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -244,6 +281,17 @@ bool Tanhua::eventFilter(QObject* kohde, QEvent* tapahtuma) {
     if (tapahtuma->type() == QEvent::MouseButtonPress && kohde == playerLogo_) {
         if (AvaaSoitin && playerLogo_->isEnabled()) AvaaSoitin();
         return true;
+    }
+    // The phone grows a tenth under the pointer and opens the contracts when clicked.
+    if (kohde == puhelin_) {
+        if (tapahtuma->type() == QEvent::Enter || tapahtuma->type() == QEvent::Leave) {
+            puhelinIso_ = tapahtuma->type() == QEvent::Enter;
+            NäytäPuhelin();
+        }
+        if (tapahtuma->type() == QEvent::MouseButtonPress) {
+            if (AvaaSopimukset) AvaaSopimukset();
+            return true;
+        }
     }
     if (tapahtuma->type() == QEvent::MouseButtonPress && kohde->property("tähti").isValid()) {
         if (NäytäTähti) NäytäTähti(kohde->property("tähti").toInt());
@@ -286,7 +334,9 @@ void Tanhua::Päivitä() {
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
     Näytä(command5_, lue("Command5"));
+    Näytä(stat_, lue("Stat"));
     Näytä(hepotalli_, lue("Hepotalli"));
+    Näytä(command7_, lue("Command7"));
     liikevaihtoOtsikko_->setVisible(liikevaihtoz_->isVisibleTo(this));
     if (const Ohjain aste = lue("AsteLuku"); aste.väri)
         asteLuku_->setStyleSheet(QString("color: rgb(%1,%2,%3); font-size: 14pt; font-weight: bold;")
@@ -313,6 +363,15 @@ void Tanhua::Päivitä() {
     NäytäKuva(peli_, playerLogo_, "Kuvat/", logo, 48);
     playerLogo_->setEnabled(logo.käytössä);
     player_->Päivitä();
+    Näytä(command10_, lue("Command10"));
+    NäytäPuhelin();
+}
+
+void Tanhua::NäytäPuhelin() {
+    const int koko = puhelinIso_ ? 70 : 64;  // 64 pixels, a tenth more under the pointer
+    const Ohjain o = LueRuudulta(peli_, "Tanhua", "Puhelin");
+    NäytäKuva(peli_, puhelin_, "Kuvat/", o, koko);
+    puhelin_->setEnabled(o.käytössä);
 }
 
 }  // namespace tanhua::ui

@@ -49,21 +49,29 @@ public:
     QPushButton* Command8() const { return command8_; }
     QPushButton* Command9() const { return command9_; }
     QPushButton* Command5() const { return command5_; }
+    QPushButton* Command7() const { return command7_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
+    QPushButton* Stat() const { return stat_; }
     QPushButton* Hepotalli() const { return hepotalli_; }
     QLabel* Rahaz() const { return rahaz_; }
     QListWidget* Lista() const { return lista_; }
     const std::array<MittariKuva*, 4>& Mittarit() const { return mittarit_; }
     QLabel* PlayerLogo() const { return playerLogo_; }
     class Player* player() const { return player_; }
+    // The contracts: the button and the phone that rings while an offer waits.
+    QPushButton* Command10() const { return command10_; }
+    QLabel* Puhelin() const { return puhelin_; }
+    std::function<void()> AvaaSopimukset;
 
     // What the frame does for the buttons of the main screen.
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
     std::function<void()> AvaaPellot;
     std::function<void()> AvaaHevostalli;
+    std::function<void()> AvaaTilanne;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
+    std::function<void()> AvaaKäyrät;     // "Statistiikka"
     std::function<void()> AvaaSoitin;     // a click on the music player's badge
 
 protected:
@@ -74,17 +82,26 @@ private:
     void Ohje(const char* kontrolli, QWidget* w);
 
     Peli& peli_;
-    QLabel *sää_, *rahaz_, *liikevaihtoz_, *liikevaihtoOtsikko_, *vuodenaikaz_, *asteLuku_, *versio_, *ohje_;
+    // Every widget is built in the constructor; until then the event filter meets only null pointers.
+    QLabel *sää_ = nullptr, *rahaz_ = nullptr, *liikevaihtoz_ = nullptr, *liikevaihtoOtsikko_ = nullptr,
+           *vuodenaikaz_ = nullptr, *asteLuku_ = nullptr, *versio_ = nullptr, *ohje_ = nullptr;
     std::array<QLabel*, 3> päiväys_{};  // Päiväz, Kuukausiz, Vuosiz
     std::array<QLabel*, 5> tähdet_{};
     std::array<MittariKuva*, 4> mittarit_{};
-    QListWidget* lista_;
-    QPushButton *command1_, *command2_, *command3_, *command6_, *command8_, *command9_, *command4_, *lopetus_;
-    QPushButton* hepotalli_;  // the stable, shown with a stable and a mare
+    QListWidget* lista_ = nullptr;
+    QPushButton *command1_ = nullptr, *command2_ = nullptr, *command3_ = nullptr, *command6_ = nullptr,
+                *command8_ = nullptr, *command9_ = nullptr, *command4_ = nullptr, *lopetus_ = nullptr;
+    QPushButton* hepotalli_ = nullptr;  // the stable, shown with a stable and a mare
+    QPushButton* command7_ = nullptr;
     std::string tausta_;
-    QPushButton* command5_;  // "Maa alueet"
-    QLabel* playerLogo_;
-    class Player* player_;
+    QPushButton* command5_ = nullptr;  // "Maa alueet"
+    QPushButton* stat_ = nullptr;
+    QLabel* playerLogo_ = nullptr;
+    class Player* player_ = nullptr;
+    QPushButton* command10_ = nullptr;
+    QLabel* puhelin_ = nullptr;
+    bool puhelinIso_ = false;  // grown while the pointer is over it
+    void NäytäPuhelin();
 };
 
 }  // namespace tanhua::ui
