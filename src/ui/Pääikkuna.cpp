@@ -121,6 +121,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     kylvö_->Palaa = nosto_->Palaa = [this] {
         pino_->setCurrentWidget(pellot_);
         Päivitä();
+    };
     tanhua_->AvaaKäyrät = [this] { AvaaRuutu(käyrät_); };
     ravit_->Suljettu = [this] {
         if (raviPaluu_) {
