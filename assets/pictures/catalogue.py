@@ -338,6 +338,55 @@ for _name, _kind in (("metsä.jpg", "metsä"), ("pelto.jpg", "pelto"), ("jouto.j
     pic(f"Kuvat/maat/{_name}")(lambda k=_kind: land(k))
 
 
+def crop_rows(y1, y2, n, seed, name, leaf="#3f8a2c", soil="#7a5432", line="#5e3f24"):
+    """Rows of a crop in brown furrows: leaves everywhere, the crop's icon showing here and there."""
+    rnd = random.Random(seed)
+    out = [S.furrow_band(160, y1, y2, soil, line, 9, seed)]
+    for i in range(n):
+        t = (i + 0.5) / n
+        yy = y1 + (y2 - y1) * t ** 1.4
+        s = 5 + 16 * t ** 1.4
+        for k in range(int(160 / (s * 1.3)) + 1):
+            xx = k * s * 1.3 + rnd.uniform(-s * 0.3, s * 0.3)
+            out.append(f'<ellipse cx="{xx:.1f}" cy="{yy:.1f}" rx="{s * 0.55:.1f}" ry="{s * 0.3:.1f}" fill="{leaf}"/>')
+            if name and rnd.random() < 0.35:
+                out.append(icon(name, xx - s * 0.35, yy - s * 0.5, s * 0.7))
+    return "".join(out)
+
+
+def crop(kind):
+    """A crop of the sowing screen, or the sowing and harvest of the land screen: 160 x 120 like the land."""
+    c = Canvas(160, 120)
+    c.add(S.sky(160, 120, "summer"), S.cloud(36, 16, 9), S.forest_edge(160, 54, 24, seed=31, density=1.4))
+    if kind == "mansikka":
+        c.add(crop_rows(52, 120, 7, 41, "strawberry", leaf="#3c8a30"))
+        c.add(S.icon_on_ground("basket", 128, 116, 30), icon("strawberry", 118, 80, 18))
+    elif kind == "peruna":
+        c.add(crop_rows(52, 120, 7, 42, None, leaf="#4d9436"))
+        c.add(S.flowers(160, 56, 110, 30, 43, colors=("#ffffff", "#e9dcf7")))
+        c.add(S.icon_on_ground("potato", 30, 116, 26), S.icon_on_ground("potato", 52, 114, 20, flip=True))
+    elif kind == "rypsi":
+        c.add('<rect y="52" width="160" height="68" fill="#d9c21c"/>')
+        c.add(S.field(0, 52, 160, 68, ["#e6cf24", "#f4e04a", "#b9a414"], rows=16))
+        c.add(S.flowers(160, 54, 118, 160, 44, colors=("#ffe436", "#f7d21a", "#fff27a")))
+        c.add(S.house(118, 56, 24, 11))
+    elif kind == "kylvö":
+        c.add(S.furrow_band(160, 52, 120, "#6e4a2c", "#4f331d", 11, 45))
+        c.add(crop_rows(92, 120, 2, 46, "seedling", leaf="#6fb04a"))
+        c.add(S.icon_on_ground("tractor", 60, 88, 52), S.icon_on_ground("sheaf-of-rice", 128, 112, 26))
+    else:  # nosto: the crop lifted into a basket on a ripe field
+        c.add('<rect y="52" width="160" height="68" fill="#d8b34a"/>')
+        c.add(S.field(0, 52, 160, 68, ["#d8b34a", "#b88a2c", "#e8c860"], rows=12))
+        c.add(S.grain_ears(160, 60, 96, 90, 47))
+        c.add(S.icon_on_ground("basket", 96, 116, 40), icon("potato", 84, 78, 18), icon("strawberry", 104, 76, 16))
+        c.add(S.icon_on_ground("woman-farmer", 40, 118, 46))
+    return c.render()
+
+
+for _kind in ("mansikka", "peruna", "rypsi", "kylvö", "nosto"):
+    pic(f"Kuvat/maat/{_kind}.jpg")(lambda k=_kind: crop(k))
+
+
 # ============================================================== weather
 
 def weather(*layers, dark=False):

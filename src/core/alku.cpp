@@ -222,6 +222,9 @@ void NollaaRuudut(Peli& peli) {
     peli.pankkiruutu = PankkiRuutuTila{};
     peli.tarvikeruutu = TarvikeRuutuTila{};
     peli.tilanneruutu = TilanneRuutuTila{};
+    peli.peltoruutu = PeltoRuutuTila{};
+    peli.kylvöruutu = KylvöRuutuTila{};
+    peli.nostoruutu = NostoRuutuTila{};
     peli.käyrätruutu = KäyrätRuutuTila{};
     peli.raviruutu = RaviRuutuTila{};
     peli.talliruutu = TalliRuutuTila{};

@@ -4,6 +4,7 @@
 #include "../animals/eläimet.h"
 #include "../contracts/sopimukset.h"
 #include "../finance/pankki.h"
+#include "../land/maat.h"
 #include "../storage/tallennus.h"
 #include "../workforce/palkat.h"
 #include "päivä.h"
@@ -36,23 +37,6 @@ struct Kuukausiluvut {
 
 // A whole number written without Str: no leading blank.
 std::string Kokonaisena(double x) { return Suoraan(Str(Round(x))); }
-
-// Forest planting: one more round than there are foresters, 1000 a hectare.
-void Metsitys(Peli& peli, Kuukausiluvut& k) {
-    Muuttujat& m = peli.m;
-    if (!(m.Pellot_Metsitä == 1 && m.Joutomaa > 0 && m.Työ[Metsuri] > 0)) return;
-    for (long long kierros = 0; kierros < static_cast<long long>(m.Työ[Metsuri]) + 1; ++kierros) {
-        if (m.Raha < 1000) {
-            LisääListaan(peli, "Metsän istuttamiseen ei ole varaa.");
-            return;
-        }
-        if (m.Joutomaa < 1) return;
-        Lisää(m.Joutomaa, -1);
-        Lisää(m.Metsä, 1);
-        Lisää(m.Raha, -1000);
-        Lisää(k.I, 1000);
-    }
-}
 
 class Raportinkirjoittaja {
 public:
@@ -165,7 +149,7 @@ void Kuukaudenvaihde(Peli& peli) {
     Vanhentuminen(peli);
     Lisääntyminen(peli);
     SopimusKuukausi(peli);
-    Metsitys(peli, k);
+    k.I = Metsitys(peli);
     Lisää(m.Liikevaihto, m.PakkaamoTulot);
     k.p = LainaKuukausi(peli);
     m.PalkkaLukko.fill(false);

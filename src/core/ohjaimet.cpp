@@ -16,6 +16,8 @@ const Ohjainluettelo& Ohjaimet() {
         TyövoimaruudunOhjaimet(l);
         TarvikeruudunOhjaimet(l);
         PankkiruudunOhjaimet(l);
+        PeltoruudunOhjaimet(l);
+        KylvöruudunOhjaimet(l);
         KäyrätruudunOhjaimet(l);
         RaviruudunOhjaimet(l);
         HevostalliruudunOhjaimet(l);

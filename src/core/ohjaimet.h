@@ -60,6 +60,8 @@ void RakennusruudunOhjaimet(Ohjainluettelo& l);  // Rakennukset
 void TyövoimaruudunOhjaimet(Ohjainluettelo& l);  // Työvoima
 void TarvikeruudunOhjaimet(Ohjainluettelo& l);   // Tarvikkeet
 void PankkiruudunOhjaimet(Ohjainluettelo& l);    // Pankki
+void PeltoruudunOhjaimet(Ohjainluettelo& l);     // Pellot
+void KylvöruudunOhjaimet(Ohjainluettelo& l);     // Kylvö and Nosto
 void KäyrätruudunOhjaimet(Ohjainluettelo& l);    // Käyrät
 void RaviruudunOhjaimet(Ohjainluettelo& l);      // Ravit
 void HevostalliruudunOhjaimet(Ohjainluettelo& l);  // Hevostalli

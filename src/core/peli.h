@@ -12,6 +12,7 @@
 #include "../buildings/tarvikeruutu.h"
 #include "../contracts/sopimusruutu.h"
 #include "../finance/pankkiruutu.h"
+#include "../land/peltoruutu.h"
 #include "../market/tuoteruutu.h"
 #include "../racing/raviruutu.h"
 #include "../stats/käyrätruutu.h"
@@ -99,6 +100,9 @@ struct Peli {
     PankkiRuutuTila pankkiruutu;      // the bank screen's labels and sheets
     TarvikeRuutuTila tarvikeruutu;    // the supplies screen's lists, choice and labels
     TilanneRuutuTila tilanneruutu;    // the save panel's name box and listed saves
+    PeltoRuutuTila peltoruutu;        // the land screen's card, lot and forester's panel
+    KylvöRuutuTila kylvöruutu;        // the sowing plan and its sheet
+    NostoRuutuTila nostoruutu;        // the harvest estimate and its sheet
     KäyrätRuutuTila käyrätruutu;      // the statistics screen's labels and plot
     RaviRuutuTila raviruutu;          // the race-betting screen, fresh at each opening
     TalliRuutuTila talliruutu;        // the stable screen's sheets and the month's riding ledger

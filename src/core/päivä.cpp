@@ -134,6 +134,7 @@ void SeuraavaPäivä(Peli& peli) {
         [&] { PäiväKulut(peli); },
     });
     peli.päivänKuorma.reset();
+    peli.päivänKausiarvo.reset();
     // Only a day that reached its last step clears the failure count.
     if (loppuun) m.VikaLaskuri = 0;
 }

@@ -85,6 +85,10 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
             return Näkyvä(teksti, käytössä);
         });
     }
+    // The land screen's button, locked by the stars as the supplies' button is.
+    yksi("Command5", [](const Peli& p) {
+        return Näkyvä("Maa alueet", p.näkymä.PääruutuKäytössä && p.näkymä.Command5Käytössä);
+    });
 
     // The contracts: the button, and the phone that rings while an offer waits.
     yksi("Command10", [](const Peli& p) { return Näkyvä("Sopimukset", p.näkymä.PääruutuKäytössä); });

@@ -140,6 +140,14 @@ struct Muuttujat {
     Boolean LautaRakennukseen = false;
     Integer Pellot_Metsitä = 0;     // 0/1: monthly planting of waste land
     std::array<Single, KASVEJA> Siemen{};  // seed prices of mansikka, peruna, rypsi
+    // The crop of the sowing and harvest screens, by Kasvi; not saved with the farm
+    std::array<Long, KASVEJA> Kylvetty{};        // hectares sown
+    Long KylvettyAla = 0;                        // hectares sown in all
+    Long KylvöKulut = 0;                         // what the sowing cost
+    Byte HoitoTaso = 0;                          // treatment points given at sowing
+    Byte KasvuVaihe = 0;                         // growth stage, only ever 0
+    std::array<Long, KASVEJA> Sato{};            // crop in kg, only ever 0
+    std::array<Integer, KASVEJA> SiemenKurssi{}; // seed market indices, always 0
 
     // Contracts
     std::array<Sopimus, SOPIMUSPAIKKOJA> Sop{};

@@ -37,6 +37,7 @@ void RakennustenToiminnot(Toimintoluettelo& t);   // the building screen and the
 void PankinToiminnot(Toimintoluettelo& t);        // the bank screen: loan, deposit, insurance
 void TarvikkeidenToiminnot(Toimintoluettelo& t);  // the supplies shop
 void TilanteenToiminnot(Toimintoluettelo& t);     // the save panel and the start screen's continue
+void MaidenToiminnot(Toimintoluettelo& t);        // the land screen, the forester, the grain, sowing and harvest
 void KäyrienToiminnot(Toimintoluettelo& t);       // the statistics screen
 void RavienToiminnot(Toimintoluettelo& t);        // the race-betting screen
 void TallinToiminnot(Toimintoluettelo& t);        // the riding stable, motivation and the wage talks

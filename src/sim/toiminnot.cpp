@@ -54,6 +54,7 @@ struct Ruutu {
 constexpr Ruutu ALARUUDUT[] = {{"Eläimet", "Tanhua.Command1"},  {"Rakennukset", "Tanhua.Command2"},
                                {"Tuotteet", "Tanhua.Command3"}, {"Pankki", "Tanhua.Command6"},
                                {"Työvoima", "Tanhua.Command8"}, {"Tarvikkeet", "Tanhua.Command9"},
+                               {"Pellot", "Tanhua.Command5"},
                                {"Käyrät", "Tanhua.Stat"},
                                {"Hevostalli", "Tanhua.Hepotalli"},
                                {"Sopimukset", "Tanhua.Command10"}};
@@ -70,6 +71,7 @@ const Poistuminen POISTUMISET[] = {
     {"Työvoima.Takaisin", Aina},
     {"Pankki.Sulje", Aina},
     {"Tarvikkeet.Sulje", Aina},
+    {"Pellot.Sulje", Aina},
     {"Käyrät.Sulje", Aina},
     {"Käyrät.Command2", Aina},
     {"Hevostalli.Sulje", Aina},
@@ -148,6 +150,7 @@ const Toimintoluettelo& Toiminnot() {
         PankinToiminnot(t);
         TarvikkeidenToiminnot(t);
         TilanteenToiminnot(t);
+        MaidenToiminnot(t);
         KäyrienToiminnot(t);
         RavienToiminnot(t);
         TallinToiminnot(t);

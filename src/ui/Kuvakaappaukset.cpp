@@ -13,6 +13,10 @@
 #include "Asetukset.h"
 #include "Rakennukset.h"
 #include "Työvoima.h"
+#include "Pellot.h"
+#include "Kylvö.h"
+#include "land/kylvö.h"
+#include "land/pellot.h"
 #include "Käyrät.h"
 #include "Ravit.h"
 #include "racing/ravit.h"
@@ -238,6 +242,11 @@ bool KuvaaTuotanto(Näyttämö& n, const QDir& kansio) {
     w.rakennukset()->Command1()->click();
     return ok;
 }
+}  // namespace
+
+namespace {
+// The land screen's pictures (below).
+bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio);
 }  // namespace
 
 int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
@@ -471,6 +480,7 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.Toimi([&] { Palkkaneuvottelut(peli); });
     n.kanavat.kysyttäessä = nullptr;
     ok &= kuvattu;
+    ok &= Maakuvat(w, peli, kansio);
     // Two years of the farm in the curves, last month's net table, and a coupon at the races.
     ok &= KäyrätJaRavit(n, kansio);
 
@@ -652,6 +662,78 @@ int MittaaJalostus(const Kansiot& kansiot) {
 }
 }  // namespace
 
+namespace {
+bool Maakuvat(Pääikkuna& w, Peli& peli, const QDir& kansio) {
+    bool ok = true;
+    Aseta(peli.m.Raha, 400000);
+    Aseta(peli.m.Metsä, 12);
+    Aseta(peli.m.Pelto, 8);
+    Aseta(peli.m.Laidun, 3);
+    peli.m.LantaPeltoon = true;
+    Aseta(peli.m.Rak[Saha], 1);
+    Aseta(peli.m.Työ[Metsuri], 2);
+    Aseta(peli.m.Tähdet, 1);
+    w.PalaaPääruutuun();
+    w.AvaaRuutu(w.pellot());
+    ValitseMaa(peli, MaaPelto);
+    plus(peli);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "39-Pellot.png");
+    PellotEsc(peli);
+    AvaaMetsuriValikko(peli);
+    AsetaMetsitä(peli, true);
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "40-Pellot-Metsuri.png");
+    PellotEsc(peli);
+    // The sowing screen is closed to play; the picture is taken of it all the same.
+    AvaaKylvö(peli);
+    ValitseKasvi(peli, Rypsi);
+    for (int i = 0; i < 3; ++i) KylvöPlus(peli);
+    HyväksyKasvi(peli);
+    ValitseKasvi(peli, Mansikka);
+    KylvöPlus(peli);
+    HyväksyKasvi(peli);
+    AsetaLannoitetaan(peli, true);
+    AsetaMyrkytetään(peli, true);
+    w.pino()->setCurrentWidget(w.kylvö());
+    w.Päivitä();
+    ok &= Tallenna(&w, kansio, "41-Kylvo.png");
+    PeruutaKylvö(peli);
+    w.pino()->setCurrentWidget(w.pellot());
+    w.pellot()->Command1()->click();
+    return ok;
+}
+
+// The land's heaviest day: ten foresters with the machine in 500 ha of forest, and 10,000 ha of field
+// in June, one draw a hectare.
+int MittaaMaat(const Kansiot& kansiot) {
+    Näyttämö n(kansiot);
+    n.AloitaTila("Metsätila");
+    Muuttujat& m = n.peli.m;
+    Aseta(m.Raha, 50000000);
+    Aseta(m.Koko_Varasto, 1000000);
+    Aseta(m.Metsä, 500);
+    Aseta(m.Pelto, 10000);
+    Aseta(m.Työ[Metsuri], 10);
+    m.Tarv[Metsäkone] = true;
+    m.LantaPeltoon = true;
+    Aseta(m.Var[Lanta], 100000);
+    std::vector<double> ajat;
+    QElapsedTimer kello;
+    for (int päivä = 0; päivä < 29; ++päivä) {
+        kello.start();
+        n.ikkuna.SeuraavaPäivä();
+        n.ikkuna.repaint();
+        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+    }
+    std::sort(ajat.begin(), ajat.end());
+    std::printf("Seuraava päivä with repaint, 29 June presses with 500 ha of forest, ten foresters and the machine, "
+                "and 10000 ha of field:\n  median %.2f ms, slowest %.2f ms\n",
+                ajat[ajat.size() / 2], ajat.back());
+    return 0;
+}
+}  // namespace
+
 int MittaaPäivä(const Kansiot& kansiot) {
     Näyttämö n(kansiot);
     n.AloitaTila("Mittari");
@@ -699,6 +781,8 @@ int MittaaPäivä(const Kansiot& kansiot) {
     std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
                 ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
     MittaaSattumat(n);
+    const int jalostus = MittaaJalostus(kansiot);
+    return jalostus != 0 ? jalostus : MittaaMaat(kansiot);
     MittaaKäyräJaKuponki(n);
     MittaaTallennus(n.peli);
     return MittaaJalostus(kansiot);

@@ -8,6 +8,9 @@
 #include "Rakennukset.h"
 #include "Pankki.h"
 #include "Tarvikkeet.h"
+#include "Pellot.h"
+#include "Kylvö.h"
+#include "Nosto.h"
 #include "Käyrät.h"
 #include "Ravit.h"
 #include "racing/ravit.h"
@@ -51,6 +54,10 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     for (QWidget* ruutu : std::initializer_list<QWidget*>{alku_, tanhua_, raportti_, eläimet_, tuotteet_, työvoima_,
                                                           rakennukset_, pankki_, tarvikkeet_, hevostalli_})
         pino_->addWidget(ruutu);
+    pellot_ = new Pellot(peli_, *this, pino_);
+    kylvö_ = new Kylvö(peli_, *this, pino_);
+    nosto_ = new Nosto(peli_, *this, pino_);
+    for (QWidget* ruutu : std::initializer_list<QWidget*>{pellot_, kylvö_, nosto_}) pino_->addWidget(ruutu);
     // The contracts screen, opened by its button or the ringing phone.
     sopimukset_ = new Sopimukset(peli_, *this, pino_);
     pino_->addWidget(sopimukset_);
@@ -102,6 +109,19 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaRakennukset = [this] { AvaaRuutu(rakennukset_); };
     tanhua_->AvaaPankki = [this] { AvaaRuutu(pankki_); };
     tanhua_->AvaaTarvikkeet = [this] { AvaaRuutu(tarvikkeet_); };
+    tanhua_->AvaaPellot = [this] { AvaaRuutu(pellot_); };
+    // The land screen's two pictures lead on to the sowing and harvest screens, which come back to it.
+    auto alaruudulle = [this](QWidget* ruutu, const std::function<void()>& avaa) {
+        Toimi(avaa);
+        pino_->setCurrentWidget(ruutu);
+        Päivitä();
+    };
+    pellot_->AvaaKylvö = [this, alaruudulle] { alaruudulle(kylvö_, [this] { kylvö_->Avaa(); }); };
+    pellot_->AvaaNosto = [this, alaruudulle] { alaruudulle(nosto_, [this] { nosto_->Avaa(); }); };
+    kylvö_->Palaa = nosto_->Palaa = [this] {
+        pino_->setCurrentWidget(pellot_);
+        Päivitä();
+    };
     tanhua_->AvaaKäyrät = [this] { AvaaRuutu(käyrät_); };
     ravit_->Suljettu = [this] {
         if (raviPaluu_) {
@@ -219,6 +239,12 @@ void Pääikkuna::Päivitä() {
         pankki_->Päivitä();
     } else if (nyt == tarvikkeet_) {
         tarvikkeet_->Päivitä();
+    } else if (nyt == pellot_) {
+        pellot_->Päivitä();
+    } else if (nyt == kylvö_) {
+        kylvö_->Päivitä();
+    } else if (nyt == nosto_) {
+        nosto_->Päivitä();
     } else if (nyt == käyrät_) {
         käyrät_->Päivitä();
     } else if (nyt == ravit_) {
@@ -250,6 +276,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == rakennukset_) rakennukset_->Avaa();
             if (ruutu == pankki_) pankki_->Avaa();
             if (ruutu == tarvikkeet_) tarvikkeet_->Avaa();
+            if (ruutu == pellot_) pellot_->Avaa();
             if (ruutu == käyrät_) käyrät_->Avaa();
             if (ruutu == hevostalli_) hevostalli_->Avaa();
             if (ruutu == sopimukset_) sopimukset_->Avaa();
@@ -337,7 +364,7 @@ void Pääikkuna::Lopeta() {
 bool Pääikkuna::OnAlaruutu(QWidget* ruutu) const {
     return ruutu == eläimet_ || ruutu == tuotteet_ || ruutu == työvoima_ || ruutu == rakennukset_ || ruutu == pankki_ ||
            ruutu == tarvikkeet_ || ruutu == käyrät_ || ruutu == hevostalli_ || ruutu == sopimukset_ ||
-           ruutu == tilanne_;
+           ruutu == tilanne_ || ruutu == pellot_ || ruutu == kylvö_ || ruutu == nosto_;
 }
 
 QWidget* Pääikkuna::UranRuutu(QWidget* nyt) {

@@ -25,6 +25,9 @@ class Työvoima;
 class Rakennukset;
 class Pankki;
 class Tarvikkeet;
+class Pellot;
+class Kylvö;
+class Nosto;
 class Käyrät;
 class Ravit;
 class Hevostalli;
@@ -74,6 +77,9 @@ public:
     Rakennukset* rakennukset() const { return rakennukset_; }
     Pankki* pankki() const { return pankki_; }
     Tarvikkeet* tarvikkeet() const { return tarvikkeet_; }
+    Pellot* pellot() const { return pellot_; }
+    Kylvö* kylvö() const { return kylvö_; }
+    Nosto* nosto() const { return nosto_; }
     Käyrät* käyrät() const { return käyrät_; }
     Ravit* ravit() const { return ravit_; }
     // The stable's "Osallistu raveihin": the notice, then the race screen fresh; closing it goes back
@@ -116,6 +122,10 @@ private:
     Rakennukset* rakennukset_;
     Pankki* pankki_;
     Tarvikkeet* tarvikkeet_;
+    // The land screen and the sowing and harvest screens that open from its pictures.
+    Pellot* pellot_;
+    Kylvö* kylvö_;
+    Nosto* nosto_;
     Käyrät* käyrät_;
     Ravit* ravit_;
     QWidget* raviPaluu_ = nullptr;

@@ -173,6 +173,14 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     connect(command8_, &QPushButton::clicked, this, [this] { if (AvaaTyövoima) AvaaTyövoima(); });
     connect(command4_, &QPushButton::clicked, this, [this] { if (SeuraavaPäivä) SeuraavaPäivä(); });
     connect(lopetus_, &QPushButton::clicked, this, [this] { if (Lopeta) Lopeta(); });
+    // The land screen's button, locked by the stars as the supplies' button is.
+    command5_ = new QPushButton("Maa alueet", this);
+    command5_->setObjectName("Command5");
+    command5_->setToolTip("Metsä ja pelto omistukset");
+    Teksturoi(peli_, command5_, "nappi.jpg", 12, 14);
+    command5_->setMinimumSize(150, 40);
+    Ohje("Command5", command5_);
+    connect(command5_, &QPushButton::clicked, this, [this] { if (AvaaPellot) AvaaPellot(); });
     // The statistics screen's button.
     stat_ = new QPushButton("Statistiikka", this);
     stat_->setObjectName("Stat");
@@ -236,6 +244,7 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     ala->setColumnStretch(3, 1);
     ala->addWidget(command4_, 0, 4);
     ala->addWidget(lopetus_, 1, 4);
+    ala->addWidget(command5_, 0, 3, Qt::AlignLeft);
     ala->addWidget(stat_, 0, 3, Qt::AlignLeft);
     ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
     ala->addWidget(command10_, 2, 0);
@@ -324,6 +333,7 @@ void Tanhua::Päivitä() {
     }};
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
+    Näytä(command5_, lue("Command5"));
     Näytä(stat_, lue("Stat"));
     Näytä(hepotalli_, lue("Hepotalli"));
     Näytä(command7_, lue("Command7"));

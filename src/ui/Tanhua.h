@@ -48,6 +48,7 @@ public:
     QPushButton* Command6() const { return command6_; }
     QPushButton* Command8() const { return command8_; }
     QPushButton* Command9() const { return command9_; }
+    QPushButton* Command5() const { return command5_; }
     QPushButton* Command7() const { return command7_; }
     QPushButton* Command4() const { return command4_; }
     QPushButton* Lopetus() const { return lopetus_; }
@@ -66,6 +67,7 @@ public:
     // What the frame does for the buttons of the main screen.
     std::function<void()> AvaaEläimet, AvaaRakennukset, AvaaTuotteet, AvaaPankki, AvaaTyövoima, AvaaTarvikkeet,
         SeuraavaPäivä, Lopeta;
+    std::function<void()> AvaaPellot;
     std::function<void()> AvaaHevostalli;
     std::function<void()> AvaaTilanne;
     std::function<void(int)> NäytäTähti;  // a click on star 0..4
@@ -92,6 +94,7 @@ private:
     QPushButton* hepotalli_ = nullptr;  // the stable, shown with a stable and a mare
     QPushButton* command7_ = nullptr;
     std::string tausta_;
+    QPushButton* command5_ = nullptr;  // "Maa alueet"
     QPushButton* stat_ = nullptr;
     QLabel* playerLogo_ = nullptr;
     class Player* player_ = nullptr;

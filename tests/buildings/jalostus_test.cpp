@@ -276,7 +276,8 @@ TEST(Chains, TheDayOrderTakesItsDrawsFeedSawYardsThenTheHouseChains) {
     };
     Tila t;
     Maatila(t);
-    t.Arvot({0.9, 0.5, 0.25, 0.75, 0.1, 0.0, 0.99, 0.6, 0.4});
+    // After the berries the ten hectares of field take eleven draws, at 0 here: no grain.
+    t.Arvot({0.9, 0.5, 0.25, 0.75, 0.1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0.0, 0.99, 0.6, 0.4});
     Jalostus(t.peli);
     EXPECT_EQ(t.Jäljellä(), 0u);
     EXPECT_FLOAT_EQ(t.m.Var[Rehu], 2.4f);  // feed: Int(2 x 0.9) + 1 = 2 with the mill
