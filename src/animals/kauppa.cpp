@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "../core/ohjaimet.h"
 #include "../core/kanavat.h"
 #include "../core/peli.h"
 #include "../core/viestit.h"
@@ -97,16 +98,9 @@ void ValitseEläin(Peli& peli, int kortti) {
 namespace {
 // The lot moves one step along 1, 10, 100; past either end nothing changes.
 void AskellaMäärää(Peli& peli, int suunta) {
-    static constexpr std::array<Integer, 3> ERÄT{1, 10, 100};
     EläinRuutuTila& r = peli.eläinruutu;
     SoitaÄäni(peli, "siirto");
-    for (std::size_t i = 0; i < ERÄT.size(); ++i) {
-        const std::size_t uusi = i + static_cast<std::size_t>(suunta);
-        if (r.määrä == ERÄT[i] && uusi < ERÄT.size()) {
-            r.määrä = ERÄT[uusi];
-            break;
-        }
-    }
+    r.määrä = SeuraavaErä(r.määrä, suunta);
     PäivitäSummat(r);
 }
 }  // namespace

@@ -5,6 +5,15 @@
 
 namespace tanhua {
 
+Integer SeuraavaErä(Integer määrä, int suunta) {
+    static constexpr Integer ERÄT[] = {1, 10, 100};
+    for (std::size_t i = 0; i < 3; ++i) {
+        const std::size_t uusi = i + static_cast<std::size_t>(suunta);
+        if (määrä == ERÄT[i] && uusi < 3) return ERÄT[uusi];
+    }
+    return määrä;
+}
+
 const Ohjainluettelo& Ohjaimet() {
     static const Ohjainluettelo luettelo = [] {
         Ohjainluettelo l;

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "laskenta.h"
+
 namespace tanhua {
 
 struct Peli;
@@ -47,6 +49,9 @@ private:
     Ohjainluettelo& l_;
     std::string ruutu_;
 };
+
+// The lot of a card steps along 1, 10, 100 (suunta +1 or -1); past either end it stays.
+Integer SeuraavaErä(Integer määrä, int suunta);
 
 // Every screen's controls, gathered from the subsystems once.
 const Ohjainluettelo& Ohjaimet();

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "../core/ohjaimet.h"
 #include "../core/peli.h"
 #include "../core/pääruutu.h"
 #include "../core/viestit.h"
@@ -101,17 +102,10 @@ void ValitseMaa(Peli& peli, Maa maa) {
 namespace {
 // The lot moves one step along 1, 10, 100; past either end nothing changes.
 void AskellaErää(Peli& peli, int suunta) {
-    static constexpr std::array<Integer, 3> ERÄT{1, 10, 100};
     PeltoRuutuTila& r = peli.peltoruutu;
     if (r.kortti < 0) return;
     SoitaÄäni(peli, "siirto");
-    for (std::size_t i = 0; i < ERÄT.size(); ++i) {
-        const std::size_t uusi = i + static_cast<std::size_t>(suunta);
-        if (r.määrä == ERÄT[i] && uusi < ERÄT.size()) {
-            r.määrä = ERÄT[uusi];
-            break;
-        }
-    }
+    r.määrä = SeuraavaErä(r.määrä, suunta);
     PäivitäKortti(peli);
 }
 

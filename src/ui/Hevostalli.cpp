@@ -18,12 +18,6 @@ namespace {
 // A control of the screen as the game says it shows.
 Ohjain O(const Peli& peli, const QObject* w) { return LueRuudulta(peli, "Hevostalli", w->objectName().toStdString()); }
 
-QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
-    QPushButton* n = AlaruudunNappi(peli, nimi, vanhempi);
-    n->setMinimumHeight(34);
-    return n;
-}
-
 QLabel* Luku(const char* nimi, QWidget* vanhempi) {
     QLabel* l = Teksti("", 14, vanhempi);
     l->setObjectName(nimi);
@@ -56,8 +50,8 @@ Hevostalli::Hevostalli(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     ratsastus_->setSelectionMode(QAbstractItemView::NoSelection);
     ratsastus_->setStyleSheet("QListWidget { font-size: 11pt; background: rgba(255, 255, 255, 120);"
                               " border: 1px solid #6b4a22; border-radius: 4px; }");
-    hinnasto_ = Nappi(peli_, "Command3", talli);
-    ravit_ = Nappi(peli_, "Command2", talli);
+    hinnasto_ = AlaruudunNappi(peli_, "Command3", talli);
+    ravit_ = AlaruudunNappi(peli_, "Command2", talli);
     ravit_->setMouseTracking(true);
     ravit_->installEventFilter(this);
     connect(hinnasto_, &QPushButton::clicked, this, [this] { ikkuna_.Toimi([this] { VaihdaHinnasto(peli_); }); });

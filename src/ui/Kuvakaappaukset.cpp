@@ -596,6 +596,31 @@ void Kerro(const char* mikä, std::vector<double> ajat) {
     std::printf("  %s: mean %.2f ms, median %.2f ms, slowest %.2f ms\n", mikä, summa / ajat.size(),
                 ajat[ajat.size() / 2], ajat.back());
 }
+
+// Presses of "Seuraava päivä" with the repaint, timed one by one; a report or news window a press
+// opens is closed, as a player would close it.
+std::vector<double> Painallukset(Näyttämö& n, int määrä) {
+    std::vector<double> ajat;
+    QElapsedTimer kello;
+    for (int päivä = 0; päivä < määrä; ++päivä) {
+        kello.start();
+        n.ikkuna.SeuraavaPäivä();
+        n.ikkuna.repaint();
+        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
+        if (n.peli.näkymä.RaporttiAuki) n.ikkuna.raportti()->Command1()->click();
+        if (n.peli.näkymä.IkkunaNäkyvissä) n.ikkuna.uutiset()->Command1()->click();
+    }
+    std::sort(ajat.begin(), ajat.end());
+    return ajat;
+}
+
+// The mean, the median, the 95th percentile and the slowest of a year's sorted presses.
+void KerroVuosi(const std::vector<double>& ajat) {
+    double summa = 0;
+    for (double t : ajat) summa += t;
+    std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
+                ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
+}
 }  // namespace
 
 void MittaaTallennus(Peli& peli) {
@@ -642,22 +667,9 @@ int MittaaJalostus(const Kansiot& kansiot) {
     for (const Tuote raaka : {Puu, Maito, Vilja, Villa, Jauho, Muna, Liha, Marja}) Aseta(m.Var[raaka], 500000);
     Aseta(m.Var[Rehu], 500000);
     Aseta(m.El[Nauta][Naaras], 100);
-    std::vector<double> ajat;
-    QElapsedTimer kello;
-    for (int päivä = 0; päivä < 360; ++päivä) {
-        kello.start();
-        n.ikkuna.SeuraavaPäivä();
-        n.ikkuna.repaint();
-        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
-        if (n.peli.näkymä.RaporttiAuki) n.ikkuna.raportti()->Command1()->click();
-        if (n.peli.näkymä.IkkunaNäkyvissä) n.ikkuna.uutiset()->Command1()->click();
-    }
-    std::sort(ajat.begin(), ajat.end());
-    double summa = 0;
-    for (double t : ajat) summa += t;
+    const std::vector<double> ajat = Painallukset(n, 360);
     std::printf("Seuraava päivä with repaint, 360 presses with every building at level 5 and ten workers in each job:\n");
-    std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
-                ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
+    KerroVuosi(ajat);
     return 0;
 }
 }  // namespace
@@ -718,15 +730,7 @@ int MittaaMaat(const Kansiot& kansiot) {
     m.Tarv[Metsäkone] = true;
     m.LantaPeltoon = true;
     Aseta(m.Var[Lanta], 100000);
-    std::vector<double> ajat;
-    QElapsedTimer kello;
-    for (int päivä = 0; päivä < 29; ++päivä) {
-        kello.start();
-        n.ikkuna.SeuraavaPäivä();
-        n.ikkuna.repaint();
-        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
-    }
-    std::sort(ajat.begin(), ajat.end());
+    const std::vector<double> ajat = Painallukset(n, 29);
     std::printf("Seuraava päivä with repaint, 29 June presses with 500 ha of forest, ten foresters and the machine, "
                 "and 10000 ha of field:\n  median %.2f ms, slowest %.2f ms\n",
                 ajat[ajat.size() / 2], ajat.back());
@@ -765,27 +769,14 @@ int MittaaPäivä(const Kansiot& kansiot) {
     // A stock of its own, so that no month breaks one and waits on its notice.
     for (Sopimus& s : m.Sop) s = Sopimus{"Villa", 1, 10, 40, 17};
     Aseta(m.Var[Villa], 100000);
-    std::vector<double> ajat;
-    QElapsedTimer kello;
-    for (int päivä = 0; päivä < 360; ++päivä) {
-        kello.start();
-        n.ikkuna.SeuraavaPäivä();
-        n.ikkuna.repaint();
-        ajat.push_back(static_cast<double>(kello.nsecsElapsed()) / 1e6);
-        if (n.peli.näkymä.RaporttiAuki) n.ikkuna.raportti()->Command1()->click();
-    }
-    std::sort(ajat.begin(), ajat.end());
-    double summa = 0;
-    for (double t : ajat) summa += t;
+    const std::vector<double> ajat = Painallukset(n, 360);
     std::printf("Seuraava päivä with repaint, 360 presses on a farm of 1100 adult animals with a riding stable (%.0f at the end):\n", Navettakuorma(m));
-    std::printf("  mean %.2f ms, median %.2f ms, 95th percentile %.2f ms, slowest %.2f ms\n", summa / ajat.size(),
-                ajat[ajat.size() / 2], ajat[ajat.size() * 95 / 100], ajat.back());
+    KerroVuosi(ajat);
     MittaaSattumat(n);
-    const int jalostus = MittaaJalostus(kansiot);
-    return jalostus != 0 ? jalostus : MittaaMaat(kansiot);
     MittaaKäyräJaKuponki(n);
     MittaaTallennus(n.peli);
-    return MittaaJalostus(kansiot);
+    const int jalostus = MittaaJalostus(kansiot);
+    return jalostus != 0 ? jalostus : MittaaMaat(kansiot);
 }
 
 }  // namespace tanhua::ui

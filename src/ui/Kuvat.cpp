@@ -98,6 +98,7 @@ QPushButton* AlaruudunNappi(const Peli& peli, const QString& nimi, QWidget* vanh
     auto* n = new QPushButton(vanhempi);
     n->setObjectName(nimi);
     Teksturoi(peli, n, "nappi2.jpg", 11, 12);
+    n->setMinimumHeight(34);
     return n;
 }
 

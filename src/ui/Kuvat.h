@@ -31,7 +31,7 @@ std::string S(const QString& s);
 // the font grows to the hover size while the pointer is over it.
 void Teksturoi(const Peli& peli, QPushButton* nappi, const char* tekstuuri, int perusKoko, int hoverKoko);
 
-// A button of a sub-screen: named, with the sub-screens' paper texture.
+// A button of a sub-screen: named, with the sub-screens' paper texture, at least 34 units high.
 QPushButton* AlaruudunNappi(const Peli& peli, const QString& nimi, QWidget* vanhempi);
 // A label of the game's text colour at a point size, bold unless told.
 QLabel* Teksti(const QString& teksti, int koko, QWidget* vanhempi, bool lihava = true);

@@ -18,14 +18,6 @@ namespace {
 Ohjain O(const Peli& peli, const std::string& nimi) { return LueRuudulta(peli, "Kylvö", nimi); }
 Ohjain O(const Peli& peli, const QObject* w) { return O(peli, w->objectName().toStdString()); }
 
-QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
-    auto* n = new QPushButton(vanhempi);
-    n->setObjectName(nimi);
-    Teksturoi(peli, n, "nappi2.jpg", 11, 12);
-    n->setMinimumHeight(34);
-    return n;
-}
-
 QLabel* Nimetty(const char* nimi, int koko, QWidget* vanhempi, bool lihava = true) {
     QLabel* l = Teksti("", koko, vanhempi, lihava);
     l->setObjectName(nimi);
@@ -79,8 +71,8 @@ Kylvö::Kylvö(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     QFrame* arkki = Paneeli(this, "arkki");
     kustannukset_ = Nimetty("Kustannukset", 10, arkki, false);
     kustannukset_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    aloita_ = Nappi(peli_, "Command2", arkki);
-    peruuta_ = Nappi(peli_, "Command1", arkki);
+    aloita_ = AlaruudunNappi(peli_, "Command2", arkki);
+    peruuta_ = AlaruudunNappi(peli_, "Command1", arkki);
     connect(aloita_, &QPushButton::clicked, this, [this] { Toimi([this] { AloitaKylväminen(peli_); }); });
     connect(peruuta_, &QPushButton::clicked, this, [this] { Toimi([this] { PeruutaKylvö(peli_); }); });
     auto* a = new QVBoxLayout(arkki);
@@ -113,9 +105,9 @@ QFrame* Kylvö::Korttipaneeli() {
     määrä_->setAlignment(Qt::AlignCenter);
     määrä_->setMinimumWidth(40);
     yhteensä_ = Nimetty("yhteensä", 11, p);
-    miinus_ = Nappi(peli_, "miinus", p);
-    plus_ = Nappi(peli_, "plus", p);
-    hyväksy_ = Nappi(peli_, "Command3", p);
+    miinus_ = AlaruudunNappi(peli_, "miinus", p);
+    plus_ = AlaruudunNappi(peli_, "plus", p);
+    hyväksy_ = AlaruudunNappi(peli_, "Command3", p);
     connect(miinus_, &QPushButton::clicked, this, [this] { Toimi([this] { KylvöMiinus(peli_); }); });
     connect(plus_, &QPushButton::clicked, this, [this] { Toimi([this] { KylvöPlus(peli_); }); });
     connect(hyväksy_, &QPushButton::clicked, this, [this] { Toimi([this] { HyväksyKasvi(peli_); }); });

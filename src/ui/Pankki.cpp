@@ -20,11 +20,6 @@ namespace {
 // A control of the screen as the game says it shows.
 Ohjain O(const Peli& peli, const QObject* w) { return LueRuudulta(peli, "Pankki", w->objectName().toStdString()); }
 
-QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
-    QPushButton* n = AlaruudunNappi(peli, nimi, vanhempi);
-    n->setMinimumHeight(34);
-    return n;
-}
 }  // namespace
 
 Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli), ikkuna_(ikkuna) {
@@ -45,12 +40,12 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     tiliz_->setObjectName("tiliz");
     maksuaikaz_ = Teksti("", 12, tili);
     maksuaikaz_->setObjectName("Maksuaikaz");
-    otaLainaa_ = Nappi(peli_, "Command2", tili);
-    maksa_ = Nappi(peli_, "Command3", tili);
-    talleta_ = Nappi(peli_, "Command4", tili);
-    nosta_ = Nappi(peli_, "Command5", tili);
-    pörssi_ = Nappi(peli_, "Command6", tili);
-    vaku_ = Nappi(peli_, "vaku", tili);
+    otaLainaa_ = AlaruudunNappi(peli_, "Command2", tili);
+    maksa_ = AlaruudunNappi(peli_, "Command3", tili);
+    talleta_ = AlaruudunNappi(peli_, "Command4", tili);
+    nosta_ = AlaruudunNappi(peli_, "Command5", tili);
+    pörssi_ = AlaruudunNappi(peli_, "Command6", tili);
+    vaku_ = AlaruudunNappi(peli_, "vaku", tili);
     connect(otaLainaa_, &QPushButton::clicked, this, [this] { Toimi(OtaLainaa); });
     connect(maksa_, &QPushButton::clicked, this, [this] { Toimi(MaksaLaina); });
     connect(talleta_, &QPushButton::clicked, this, [this] { Toimi(TalletaRahaa); });
@@ -99,10 +94,10 @@ QFrame* Pankki::Lappu() {
     prossa_ = Teksti("", 12, p);
     prossa_->setObjectName("prossa");
     yksikkö_ = Teksti("‰ / kk", 12, p);
-    aikaAlas_ = Nappi(peli_, "Command9", p);
-    aikaYlös_ = Nappi(peli_, "Command10", p);
-    vahvista_ = Nappi(peli_, "Command8", p);
-    suljeLappu_ = Nappi(peli_, "Command7", p);
+    aikaAlas_ = AlaruudunNappi(peli_, "Command9", p);
+    aikaYlös_ = AlaruudunNappi(peli_, "Command10", p);
+    vahvista_ = AlaruudunNappi(peli_, "Command8", p);
+    suljeLappu_ = AlaruudunNappi(peli_, "Command7", p);
     connect(aikaAlas_, &QPushButton::clicked, this, [this] { Toimi(LyhennäMaksuaikaa); });
     connect(aikaYlös_, &QPushButton::clicked, this, [this] { Toimi(PidennäMaksuaikaa); });
     connect(vahvista_, &QPushButton::clicked, this, [this] { Toimi(VahvistaLappu); });
@@ -156,7 +151,7 @@ QFrame* Pankki::VakuLappu() {
     vakuinfo_->setMinimumHeight(40);
     vakuinfo_->setProperty("vakuutus", -1);
     vakuinfo_->installEventFilter(this);
-    suljeVaku_ = Nappi(peli_, "Command11", p);
+    suljeVaku_ = AlaruudunNappi(peli_, "Command11", p);
     connect(suljeVaku_, &QPushButton::clicked, this, [this] { Toimi(SuljeVakuutukset); });
     // The sum sits in the blanks of its line, before "/ kk".
     const QString summarivi = Sv(pankkiteksti::VakuSumma);

@@ -20,14 +20,6 @@ namespace {
 Ohjain O(const Peli& peli, const std::string& nimi) { return LueRuudulta(peli, "Pellot", nimi); }
 Ohjain O(const Peli& peli, const QObject* w) { return O(peli, w->objectName().toStdString()); }
 
-QPushButton* Nappi(const Peli& peli, const char* nimi, QWidget* vanhempi) {
-    auto* n = new QPushButton(vanhempi);
-    n->setObjectName(nimi);
-    Teksturoi(peli, n, "nappi2.jpg", 11, 12);
-    n->setMinimumHeight(34);
-    return n;
-}
-
 // The folder of each picture control.
 const char* Kansio(const QString& nimi) {
     if (nimi == "LantaKuva") return "Kuvat/tuotteet/";
@@ -111,10 +103,10 @@ QFrame* Pellot::Korttipaneeli() {
     tuotto_ = teksti("KK_Tuotto", 11, true);
     lantaKuva_ = new QLabel(p);
     lantaKuva_->setObjectName("LantaKuva");
-    miinus_ = Nappi(peli_, "miinus", p);
-    plus_ = Nappi(peli_, "plus", p);
-    osta_ = Nappi(peli_, "Command7", p);
-    myy_ = Nappi(peli_, "Command8", p);
+    miinus_ = AlaruudunNappi(peli_, "miinus", p);
+    plus_ = AlaruudunNappi(peli_, "plus", p);
+    osta_ = AlaruudunNappi(peli_, "Command7", p);
+    myy_ = AlaruudunNappi(peli_, "Command8", p);
     connect(miinus_, &QPushButton::clicked, this, [this] { Toimi(tanhua::miinus); });
     connect(plus_, &QPushButton::clicked, this, [this] { Toimi(tanhua::plus); });
     connect(osta_, &QPushButton::clicked, this, [this] { Toimi(OstaMaata); });
