@@ -44,12 +44,12 @@ Eläimet::Eläimet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
 
     teuraskuva_ = new QLabel(this);
     teuraskuva_->setObjectName("Teuraskuva");
-    teuraskuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/teurastaja.jpg").scaled(84, 84, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    teuraskuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/teurastaja.jpg").scaled(50, 50, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     teuraskuva_->setCursor(Qt::PointingHandCursor);
     teuraskuva_->installEventFilter(this);
     nahkurikuva_ = new QLabel(this);
     nahkurikuva_->setObjectName("NahkuriKuva");
-    nahkurikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/nahkuri.jpg").scaled(84, 84, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    nahkurikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/nahkuri.jpg").scaled(50, 50, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     nahkurikuva_->setCursor(Qt::PointingHandCursor);
     nahkurikuva_->installEventFilter(this);
     teuras_ = Teuraspaneeli(false);
@@ -58,19 +58,27 @@ Eläimet::Eläimet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     auto* oikea = new QVBoxLayout;
     akkuna_ = Korttipaneeli();
     oikea->addWidget(akkuna_);
-    auto* henkilöt = new QHBoxLayout;
-    henkilöt->addWidget(teuraskuva_);
-    henkilöt->addWidget(nahkurikuva_);
-    henkilöt->addStretch();
-    oikea->addLayout(henkilöt);
     oikea->addWidget(teuras_);
     oikea->addWidget(nylky_);
     oikea->addStretch();
-    AsetteleAlaruutu(this, aihe_, Kortisto(), oikea, ohje_, takaisin_);
+    // The slaughterer and the tanner stand in the header row beside the title.
+    auto* otsikko = new QWidget(this);
+    auto* henkilöt = new QHBoxLayout(otsikko);
+    henkilöt->setContentsMargins(0, 0, 0, 0);
+    henkilöt->setSpacing(10);
+    henkilöt->addWidget(aihe_);
+    henkilöt->addSpacing(20);
+    teuraskuva_->setParent(otsikko);
+    nahkurikuva_->setParent(otsikko);
+    henkilöt->addWidget(teuraskuva_);
+    henkilöt->addWidget(nahkurikuva_);
+    AsetteleAlaruutu(this, otsikko, Kortisto(), oikea, ohje_, takaisin_, 1, 1);
 
     kohdistin_ = new QLabel(this);
     kohdistin_->setObjectName("Kohdistin");
     kohdistin_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    // The marker lies over the picture under the pointer on purpose.
+    kohdistin_->setProperty("päällä", true);
     kohdistin_->hide();
 }
 
@@ -134,10 +142,11 @@ QFrame* Eläimet::Korttipaneeli() {
     otsikko_->setObjectName("otsikko");
     korttikuva_ = new QLabel(p);
     korttikuva_->setObjectName("KorttiKuva");
-    info_ = Teksti("", 10, p, false);
+    info_ = Teksti("", 9, p, false);
     info_->setObjectName("Info");
     info_->setWordWrap(true);
-    info_->setMinimumHeight(70);
+
+    info_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     ostohinta_ = Teksti("", 11, p, false);
     ostohinta_->setObjectName("Ostohinta");
     myyntihinta_ = Teksti("", 11, p, false);
@@ -147,9 +156,9 @@ QFrame* Eläimet::Korttipaneeli() {
     määrä_ = Teksti("", 14, p);
     määrä_->setObjectName("määrä");
     määrä_->setAlignment(Qt::AlignCenter);
-    yhtosto_ = Teksti("", 11, p);
+    yhtosto_ = Teksti("", 10, p);
     yhtosto_->setObjectName("yhtosto");
-    yhtmyynti_ = Teksti("", 11, p);
+    yhtmyynti_ = Teksti("", 10, p);
     yhtmyynti_->setObjectName("yhtmyynti");
     miinus_ = new QPushButton(p);
     plus_ = new QPushButton(p);
@@ -170,26 +179,36 @@ QFrame* Eläimet::Korttipaneeli() {
     connect(osta_, &QPushButton::clicked, this, toimi([](Peli& p) { tanhua::Osta(p); NäytäRaha(p); }));
     connect(myy_, &QPushButton::clicked, this, toimi([](Peli& p) { tanhua::Myy(p); NäytäRaha(p); }));
     connect(teurasta_, &QPushButton::clicked, this, toimi([](Peli& p) { tanhua::Teurasta(p); NäytäRaha(p); }));
+    // The prices beside the picture, the text under them across the card, the lot and the sums
+    // two to a row: the card and both slaughter panels fit the column together.
     auto* g = new QGridLayout(p);
+    g->setVerticalSpacing(2);
+    g->setContentsMargins(10, 6, 10, 6);
     g->addWidget(otsikko_, 0, 0, 1, 2);
-    g->addWidget(korttikuva_, 0, 2, 2, 1, Qt::AlignRight);
-    g->addWidget(info_, 1, 0, 1, 2);
-    g->addWidget(ostohinta_, 2, 0, 1, 3);
-    g->addWidget(myyntihinta_, 3, 0, 1, 3);
-    g->addWidget(liha_, 4, 0, 1, 3);
+    g->addWidget(korttikuva_, 0, 2, 3, 1, Qt::AlignRight | Qt::AlignTop);
+    g->addWidget(ostohinta_, 1, 0, 1, 2);
+    g->addWidget(myyntihinta_, 2, 0, 1, 2);
+    g->addWidget(info_, 3, 0, 1, 3, Qt::AlignTop);
+    // Room for five lines of text, the longest kind's: the figures below stand still from kind to kind.
+    QFont infonFontti = info_->font();
+    infonFontti.setPointSize(9);
+    g->setRowMinimumHeight(3, 5 * QFontMetrics(infonFontti).lineSpacing() + 4);
+    g->addWidget(liha_, 4, 0);
     auto* erä = new QHBoxLayout;
     erä->addWidget(Teksti("Määrä :", 11, p, false));
     erä->addWidget(miinus_);
     erä->addWidget(määrä_);
     erä->addWidget(plus_);
-    g->addLayout(erä, 5, 0, 1, 3);
-    g->addWidget(yhtosto_, 6, 0, 1, 3);
-    g->addWidget(yhtmyynti_, 7, 0, 1, 3);
+    g->addLayout(erä, 4, 1, 1, 2);
+    g->addWidget(yhtosto_, 5, 0);
+    g->addWidget(yhtmyynti_, 5, 1, 1, 2);
+    g->setColumnStretch(0, 1);
+    g->setColumnStretch(1, 1);
     auto* toiminnot = new QHBoxLayout;
     toiminnot->addWidget(osta_);
     toiminnot->addWidget(myy_);
     toiminnot->addWidget(teurasta_);
-    g->addLayout(toiminnot, 8, 0, 1, 3);
+    g->addLayout(toiminnot, 6, 0, 1, 3);
     p->hide();
     return p;
 }
@@ -197,6 +216,9 @@ QFrame* Eläimet::Korttipaneeli() {
 QFrame* Eläimet::Teuraspaneeli(bool nylky) {
     QFrame* p = Paneeli(this, nylky ? "Nylky" : "Teuras");
     auto* g = new QGridLayout(p);
+    g->setContentsMargins(10, 6, 10, 6);
+    g->setVerticalSpacing(2);
+    g->setColumnStretch(0, 1);
     QLabel* otsikko = Teksti("", 12, p);
     otsikko->setObjectName("otsikko");
     g->addWidget(otsikko, 0, 0, 1, 3);
@@ -208,6 +230,9 @@ QFrame* Eläimet::Teuraspaneeli(bool nylky) {
         const auto& teksti = TEURASLAATIKOT[i].kuvateksti;
         laatikot_[i] = new QCheckBox(QString::fromUtf8(teksti.data(), teksti.size()), p);
         laatikot_[i]->setObjectName(NIMET[i]);
+        // The rule's sentence is long: the box takes the room there is and its hint tells it whole.
+        laatikot_[i]->setToolTip(laatikot_[i]->text());
+        laatikot_[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         g->addWidget(laatikot_[i], rivi, 0);
         connect(laatikot_[i], &QCheckBox::toggled, this, [this, i](bool päällä) {
             ikkuna_.Toimi([this, i, päällä] { AsetaTeuraslaatikko(peli_, i, päällä); });
@@ -251,7 +276,7 @@ void Eläimet::Päivitä() {
     akkuna_->setVisible(kortti.näkyvissä);
     if (kortti.näkyvissä) {
         otsikko_->setText(QString::fromStdString(kortti.arvo));
-        NäytäKuva(peli_, korttikuva_, "Kuvat/Eläimet/", Lue(peli_, "KorttiKuva"), 96);
+        NäytäKuva(peli_, korttikuva_, "Kuvat/Eläimet/", Lue(peli_, "KorttiKuva"), 72);
         const std::array<std::pair<QWidget*, const char*>, 12> kortilla{
             std::pair<QWidget*, const char*>{info_, "Info"}, {ostohinta_, "Ostohinta"}, {myyntihinta_, "Myyntihinta"},
             {liha_, "Lihaa"}, {määrä_, "määrä"}, {yhtosto_, "yhtosto"}, {yhtmyynti_, "yhtmyynti"},

@@ -2,6 +2,7 @@
 #include "Kuvat.h"
 
 // own
+#include "RahaKyltti.h"
 #include "storage/tiedostot.h"
 // Qt
 #include <QEvent>
@@ -127,14 +128,34 @@ QLabel* AiheOtsikko(const QString& teksti, QWidget* vanhempi) {
     return l;
 }
 
-void AsetteleAlaruutu(QWidget* ruutu, QLabel* aihe, QWidget* vasen, QLayout* oikea, QLabel* ohje, QPushButton* sulje) {
+QHBoxLayout* OtsikkoRivi(QWidget* aihe) {
     auto* ylä = new QHBoxLayout;
-    ylä->addWidget(aihe);
+    ylä->setContentsMargins(0, 0, 0, 0);
+    ylä->addWidget(aihe, 0, Qt::AlignLeft | Qt::AlignVCenter);
     ylä->addStretch();
-    ylä->addSpacing(240);  // room for the money plate
+    // The plate stands 12 units from the canvas's right edge, the screens' margin is 16.
+    ylä->addSpacerItem(new QSpacerItem(RahaKyltti::LEVEYS - 4, RahaKyltti::KORKEUS, QSizePolicy::Fixed,
+                                       QSizePolicy::Fixed));
+    return ylä;
+}
+
+void AsetteleAlaruutu(QWidget* ruutu, QWidget* aihe, QWidget* vasen, QLayout* oikea, QLabel* ohje, QPushButton* sulje,
+                      int vasenOsuus, int oikeaOsuus) {
+    // The right column in a widget of its own, so that both columns can ignore what their contents
+    // would like and keep their share.
+    auto* oikeaSarake = new QWidget(ruutu);
+    oikeaSarake->setObjectName("oikeaSarake");
+    oikeaSarake->setLayout(oikea);
+    oikea->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* sarake : {vasen, oikeaSarake}) {
+        QSizePolicy p = sarake->sizePolicy();
+        p.setHorizontalPolicy(QSizePolicy::Ignored);
+        p.setHorizontalStretch(sarake == vasen ? vasenOsuus : oikeaOsuus);
+        sarake->setSizePolicy(p);
+    }
     auto* keski = new QHBoxLayout;
-    keski->addWidget(vasen, 3);
-    keski->addLayout(oikea, 2);
+    keski->addWidget(vasen, vasenOsuus);
+    keski->addWidget(oikeaSarake, oikeaOsuus);
     auto* ala = new QHBoxLayout;
     ala->addWidget(ohje, 1);
     ala->addStretch(0);
@@ -142,7 +163,7 @@ void AsetteleAlaruutu(QWidget* ruutu, QLabel* aihe, QWidget* vasen, QLayout* oik
     ala->addWidget(sulje, 0, Qt::AlignBottom);
     auto* pää = new QVBoxLayout(ruutu);
     pää->setContentsMargins(16, 12, 16, 12);
-    pää->addLayout(ylä);
+    pää->addLayout(OtsikkoRivi(aihe));
     pää->addLayout(keski, 1);
     pää->addLayout(ala);
 }

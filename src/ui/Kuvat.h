@@ -6,6 +6,7 @@
 #include "core/peli.h"
 // Qt
 #include <QPixmap>
+#include <QBoxLayout>
 #include <QFrame>
 #include <QLayout>
 #include <QLabel>
@@ -43,7 +44,13 @@ QLabel* OhjeRivi(QWidget* vanhempi);
 QLabel* AiheOtsikko(const QString& teksti, QWidget* vanhempi);
 // The frame of a sub-screen: the label aihe at the top (room left for the money plate), the main
 // panel left and the column of panels right, the hint line and the close button at the bottom.
-void AsetteleAlaruutu(QWidget* ruutu, QLabel* aihe, QWidget* vasen, QLayout* oikea, QLabel* ohje, QPushButton* sulje);
+// The two columns share the width as `vasenOsuus` to `oikeaOsuus` whatever they show, so opening
+// a card never moves the other panels.
+void AsetteleAlaruutu(QWidget* ruutu, QWidget* aihe, QWidget* vasen, QLayout* oikea, QLabel* ohje, QPushButton* sulje,
+                      int vasenOsuus = 3, int oikeaOsuus = 2);
+// The header row of a sub-screen: its title at the left and, at the right, the room of the money
+// plate, as high as the plate, so that what comes below starts under it.
+QHBoxLayout* OtsikkoRivi(QWidget* aihe);
 // A control of a screen as the game reads it (screen "Eläimet", control "Kuva(3)"); a name the
 // screen doesn't register reads as hidden.
 Ohjain LueRuudulta(const Peli& peli, std::string_view ruutu, const std::string& nimi);

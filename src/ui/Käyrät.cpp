@@ -164,10 +164,7 @@ Käyrät::Käyrät(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(
     g->setColumnStretch(2, 1);
     g->setColumnStretch(3, 1);
 
-    auto* ylä = new QHBoxLayout;
-    ylä->addWidget(AiheOtsikko("Statistiikka", this));
-    ylä->addStretch();
-    ylä->addSpacing(240);  // room for the money plate
+    QHBoxLayout* ylä = OtsikkoRivi(AiheOtsikko("Statistiikka", this));
     auto* keski = new QHBoxLayout;
     keski->addWidget(vasen);
     keski->addWidget(kaavio, 1);

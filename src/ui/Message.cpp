@@ -28,6 +28,7 @@ Message::Message(Peli& peli, QWidget* vanhempi) : QDialog(vanhempi), peli_(peli)
         // Txt(1) is the shadow of Txt(0).
         txt_[i]->setStyleSheet(i == 0 ? "color: #1d1306;" : "color: rgba(255,255,255,170);");
     }
+    txt_[1]->setProperty("päällä", true);  // the shadow lies under the text on purpose
     kyllä_ = new QPushButton("Kyllä", this);
     ei_ = new QPushButton("Ei", this);
     sulje_ = new QPushButton("Sulje", this);

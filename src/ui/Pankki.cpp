@@ -52,7 +52,11 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     connect(nosta_, &QPushButton::clicked, this, [this] { Toimi(NostaTalletukset); });
     connect(vaku_, &QPushButton::clicked, this, [this] { Toimi(AvaaVakuutukset); });
     connect(pörssi_, &QPushButton::clicked, this, [this] { ikkuna_.NäytäPörssiraportti(); });
+    // The account's figures at the top of the card, its six buttons filling the rest in pairs.
     auto* g = new QGridLayout(tili);
+    g->setContentsMargins(18, 14, 18, 18);
+    g->setHorizontalSpacing(14);
+    g->setVerticalSpacing(10);
     g->addWidget(Teksti("Laina :", 12, tili, false), 0, 0);
     g->addWidget(lainaz_, 0, 1);
     g->addWidget(Teksti("Lyhennysvapaata, kk :", 12, tili, false), 1, 0);
@@ -66,14 +70,18 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     g->addWidget(pörssi_, 5, 0);
     g->addWidget(vaku_, 5, 1);
     g->setRowStretch(6, 1);
+    for (QPushButton* nappi : {otaLainaa_, maksa_, talleta_, nosta_, pörssi_, vaku_}) {
+        nappi->setMinimumHeight(52);
+        nappi->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
 
     lappu_ = Lappu();
     vakuLappu_ = VakuLappu();
+    // A sheet, when one is open, takes the whole right column.
     auto* oikea = new QVBoxLayout;
-    oikea->addWidget(lappu_);
-    oikea->addWidget(vakuLappu_);
-    oikea->addStretch();
-    AsetteleAlaruutu(this, aihe_, tili, oikea, ohje_, sulje_);
+    oikea->addWidget(lappu_, 1);
+    oikea->addWidget(vakuLappu_, 1);
+    AsetteleAlaruutu(this, aihe_, tili, oikea, ohje_, sulje_, 1, 1);
 }
 
 QFrame* Pankki::Lappu() {
@@ -104,8 +112,14 @@ QFrame* Pankki::Lappu() {
     connect(suljeLappu_, &QPushButton::clicked, this, [this] { Toimi(SuljeLappu); });
     connect(summa_, &QLineEdit::returnPressed, vahvista_, &QPushButton::click);
     auto* g = new QGridLayout(p);
+    g->setContentsMargins(16, 12, 16, 16);
+    g->setVerticalSpacing(12);
     g->addWidget(otsikko_, 0, 0, 1, 4);
     g->addWidget(teksti_, 1, 0, 1, 4);
+    teksti_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    teksti_->setStyleSheet(teksti_->styleSheet().replace("10pt", "11pt"));
+    g->setRowStretch(1, 1);
+    for (QPushButton* nappi : {vahvista_, suljeLappu_}) nappi->setMinimumHeight(46);
     g->addWidget(Teksti("Summa :", 11, p, false), 2, 0);
     g->addWidget(summa_, 2, 1, 1, 3);
     g->addWidget(aikaAlas_, 3, 0);
@@ -126,7 +140,8 @@ QFrame* Pankki::VakuLappu() {
     auto* g = new QGridLayout(p);
     vakuOtsikko_ = Teksti("", 15, p);
     g->addWidget(vakuOtsikko_, 0, 0, 1, 2);
-    g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 12, p), 1, 0, 1, 2);
+    g->setContentsMargins(16, 12, 16, 16);
+    g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 12, p), 1, 0);
     g->addWidget(Teksti(Sv(pankkiteksti::Rastita), 10, p, false), 1, 1, Qt::AlignRight);
     for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
         const VakuutusRivi& rivi = VAKUUTUSTAULU[v];
@@ -161,7 +176,9 @@ QFrame* Pankki::VakuLappu() {
     summa->addWidget(vakusumma_);
     summa->addWidget(Teksti(summarivi.mid(summarivi.lastIndexOf('/')), 11, p, false));
     g->addLayout(summa, 7, 0, 1, 2);
-    g->addWidget(vakuinfo_, 8, 0, 1, 2);
+    g->addWidget(vakuinfo_, 8, 0, 1, 2, Qt::AlignTop);
+    g->setRowStretch(8, 1);
+    suljeVaku_->setMinimumHeight(46);
     g->addWidget(suljeVaku_, 9, 0, 1, 2);
     p->hide();
     return p;

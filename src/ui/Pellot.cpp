@@ -44,7 +44,7 @@ Pellot::Pellot(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     QFrame* maat = Paneeli(this, "maat");
     auto* g = new QGridLayout(maat);
     for (int k = 0; k < 4; ++k) {
-        maat_[k] = Kuva(("Image" + std::to_string(k)).c_str(), maat, 180);
+        maat_[k] = Kuva(("Image" + std::to_string(k)).c_str(), maat, 160);
         g->addWidget(maat_[k], (k / 2) * 2, k % 2, Qt::AlignCenter);
         g->addWidget(Teksti(Sv(MAAKORTIT[k].otsikko), 12, maat), (k / 2) * 2 + 1, k % 2, Qt::AlignCenter);
     }
@@ -62,11 +62,11 @@ Pellot::Pellot(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     akkuna_ = Korttipaneeli();
     metsuriValikko_ = MetsuriPaneeli();
     auto* oikea = new QVBoxLayout;
-    oikea->addSpacing(40);  // the money plate reaches below the title row
-    oikea->addWidget(akkuna_);
+    // The card takes the column's height above the forester's panel, its text the card's slack.
+    oikea->addWidget(akkuna_, 1);
     oikea->addWidget(metsuriValikko_);
-    oikea->addStretch();
-    AsetteleAlaruutu(this, otsikko_, maat, oikea, ohje_, sulje_);
+    oikea->addStretch(0);
+    AsetteleAlaruutu(this, otsikko_, maat, oikea, ohje_, sulje_, 1, 1);
 }
 
 QLabel* Pellot::Kuva(const char* nimi, QWidget* vanhempi, int koko) {
@@ -92,7 +92,7 @@ QFrame* Pellot::Korttipaneeli() {
     korttiKuva_->setObjectName("KorttiKuva");
     info_ = teksti("info", 10);
     info_->setWordWrap(true);
-    info_->setMinimumHeight(90);
+    info_->setMinimumHeight(64);
     hehtaarit_ = teksti("hehtaarit", 11, true);
     hinta_ = teksti("hinta", 11, true);
     määrä_ = teksti("määrä", 14, true);
@@ -112,9 +112,12 @@ QFrame* Pellot::Korttipaneeli() {
     connect(osta_, &QPushButton::clicked, this, [this] { Toimi(OstaMaata); });
     connect(myy_, &QPushButton::clicked, this, [this] { Toimi(MyyMaata); });
     auto* g = new QGridLayout(p);
+    g->setContentsMargins(10, 6, 10, 6);
+    g->setVerticalSpacing(2);
     g->addWidget(otsikko2_, 0, 0, 1, 2);
     g->addWidget(korttiKuva_, 0, 2, 2, 1, Qt::AlignRight | Qt::AlignTop);
-    g->addWidget(info_, 1, 0, 1, 2);
+    g->addWidget(info_, 1, 0, 1, 2, Qt::AlignTop);
+    g->setRowStretch(1, 1);
     const std::array<std::pair<const char*, QLabel*>, 5> rivit{{{"Omistuksessa, ha :", hehtaarit_},
                                                                 {"Hinta / ha :", hinta_},
                                                                 {"Yhteensä :", yhteensä_},
@@ -147,7 +150,7 @@ QFrame* Pellot::MetsuriPaneeli() {
     metsuriInfo_ = Teksti("", 10, p, false);
     metsuriInfo_->setObjectName("MetsuriInfo");
     metsuriInfo_->setWordWrap(true);
-    metsuriInfo_->setMinimumHeight(80);
+    metsuriInfo_->setMinimumHeight(64);
     metsitä_ = new QCheckBox(Sv(peltoteksti::Metsitä), p);
     metsitä_->setObjectName("Metsitä");
     metsitä_->setStyleSheet("color: #24160a; font-size: 11pt;");
@@ -157,7 +160,7 @@ QFrame* Pellot::MetsuriPaneeli() {
     auto* v = new QVBoxLayout(p);
     v->addWidget(metsuriOtsikko_);
     v->addWidget(metsuriInfo_);
-    v->addWidget(metsitä_);
+    v->addWidget(metsitä_, 0, Qt::AlignLeft);
     p->hide();
     return p;
 }

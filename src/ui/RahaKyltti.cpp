@@ -4,8 +4,8 @@
 // own
 #include "Kuvat.h"
 // Qt
+#include <QGridLayout>
 #include <QPainter>
-#include <QVBoxLayout>
 
 namespace tanhua::ui {
 
@@ -20,13 +20,15 @@ RahaKyltti::RahaKyltti(Peli& peli, QWidget* vanhempi) : QFrame(vanhempi), peli_(
     otsikko->setStyleSheet("color: #3a2308; font-weight: bold; font-size: 9pt;");
     käteinen->setStyleSheet("color: #3a2308; font-size: 10pt;");
     rahatilaz_->setStyleSheet("color: #1a1004; font-weight: bold; font-size: 14pt;");
-    auto* asettelu = new QVBoxLayout(this);
-    asettelu->setContentsMargins(14, 6, 14, 6);
+    // The heading on the first line, "Käteinen :" and the cash beside it on the second: low enough
+    // to sit in a sub-screen's header row beside the title.
+    auto* asettelu = new QGridLayout(this);
+    asettelu->setContentsMargins(16, 5, 16, 5);
     asettelu->setSpacing(0);
-    asettelu->addWidget(otsikko);
-    asettelu->addWidget(käteinen);
-    asettelu->addWidget(rahatilaz_);
-    setFixedSize(220, 78);
+    asettelu->addWidget(otsikko, 0, 0, 1, 2);
+    asettelu->addWidget(käteinen, 1, 0, Qt::AlignBottom);
+    asettelu->addWidget(rahatilaz_, 1, 1, Qt::AlignRight | Qt::AlignBottom);
+    setFixedSize(LEVEYS, KORKEUS);
 }
 
 void RahaKyltti::Päivitä() { rahatilaz_->setText(QString::fromStdString(peli_.näkymä.lukemat.Rahatilaz)); }

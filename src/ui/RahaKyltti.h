@@ -12,6 +12,10 @@ namespace tanhua::ui {
 class RahaKyltti : public QFrame {
 public:
     RahaKyltti(Peli& peli, QWidget* vanhempi);
+    // The plate's size on the 800 x 600 canvas: each sub-screen keeps this much room at the right
+    // of its header row, so the plate never covers a card.
+    static constexpr int LEVEYS = 220;
+    static constexpr int KORKEUS = 56;
     // Shows Rahatilaz as the last Päivitälukemat or NäytäRaha set it.
     void Päivitä();
     QLabel* Rahatilaz() const { return rahatilaz_; }

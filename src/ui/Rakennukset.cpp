@@ -137,10 +137,19 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     k->addWidget(Teksti("Varasto :", 11, koot, false), 2, 0);
     k->addWidget(varastoz_, 2, 1);
 
+    // The order card takes the column's height and its text the card's slack: the figures, the
+    // button and the slider stand at the card's foot whatever is chosen, and keep their room
+    // while the slider is hidden, so nothing moves when another target is chosen.
+    g->setRowStretch(3, 1);
+    info_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    for (QWidget* w : std::initializer_list<QWidget*>{tuotanto_, prosentti_, raaka_, tuote_}) {
+        QSizePolicy p = w->sizePolicy();
+        p.setRetainSizeWhenHidden(true);
+        w->setSizePolicy(p);
+    }
     auto* oikea = new QVBoxLayout;
-    oikea->addWidget(kortti);
+    oikea->addWidget(kortti, 1);
     oikea->addWidget(koot);
-    oikea->addStretch();
     AsetteleAlaruutu(this, aihe_, Työmaat(), oikea, ohje_, sulje_);
 }
 

@@ -62,10 +62,7 @@ Sopimukset::Sopimukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     lappuset->addWidget(sopimuslappu_, 2);
     lappuset->addStretch(0);
 
-    auto* ylä = new QHBoxLayout;
-    ylä->addWidget(aihe_);
-    ylä->addStretch();
-    ylä->addSpacing(240);  // room for the money plate
+    QHBoxLayout* ylä = OtsikkoRivi(aihe_);
     auto* keski = new QHBoxLayout;
     keski->addWidget(paneeli);
     keski->addLayout(lappuset, 1);
@@ -105,6 +102,7 @@ QFrame* Sopimukset::Tarjouslappu() {
                                         : "color: rgba(150, 120, 70, 90); font-size: 10pt; margin: 1px 0 0 1px;");
         t->addWidget(infoa_[i], 0, 0);
     }
+    infoa_[1]->setProperty("päällä", true);  // the shadow lies under the text on purpose
     hyväksy_ = Nappi(peli_, "Command3", p);
     hylkää_ = Nappi(peli_, "Command2", p);
     suljeTarjoukset_ = Nappi(peli_, "Command9", p);

@@ -237,18 +237,28 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     keski->addStretch();
     keski->addWidget(lista_, 2, Qt::AlignTop);
     keski->addStretch();
-    // The screens' buttons in two rows on the left; the next day and the quit on the right.
+    // The screens' buttons in three rows of four, each in a cell of its own; the next day and the
+    // quit in the fifth column. The columns share the width by fixed parts, so a button shown or
+    // hidden (the stable's) moves none of the others.
     auto* ala = new QGridLayout;
-    const std::array<QPushButton*, 6> ruudut{command1_, command2_, command3_, command6_, command8_, command9_};
-    for (int i = 0; i < 6; ++i) ala->addWidget(ruudut[i], i / 3, i % 3);
-    ala->setColumnStretch(3, 1);
+    ala->setHorizontalSpacing(8);
+    ala->setVerticalSpacing(6);
+    const std::array<QPushButton*, 11> ruudut{command1_, command2_, command3_, command5_,  command6_, command8_,
+                                              command9_, stat_,     command10_, command7_, hepotalli_};
+    for (std::size_t i = 0; i < ruudut.size(); ++i) {
+        ruudut[i]->setMinimumWidth(130);
+        ruudut[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        ala->addWidget(ruudut[i], static_cast<int>(i / 4), static_cast<int>(i % 4));
+    }
+    for (QPushButton* nappi : {command4_, lopetus_}) {
+        nappi->setMinimumWidth(130);
+        nappi->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
     ala->addWidget(command4_, 0, 4);
-    ala->addWidget(lopetus_, 1, 4);
-    ala->addWidget(command5_, 0, 3, Qt::AlignLeft);
-    ala->addWidget(stat_, 0, 3, Qt::AlignLeft);
-    ala->addWidget(hepotalli_, 1, 3, Qt::AlignRight);
-    ala->addWidget(command10_, 2, 0);
-    ala->addWidget(command7_, 0, 3, Qt::AlignLeft);
+    ala->addWidget(lopetus_, 2, 4);
+    // The next day's column a little wider, for its longer caption.
+    for (int sarake = 0; sarake < 4; ++sarake) ala->setColumnStretch(sarake, 4);
+    ala->setColumnStretch(4, 5);
     auto* pää = new QVBoxLayout(this);
     pää->setContentsMargins(18, 18, 18, 18);
     pää->addLayout(ylä);
@@ -263,6 +273,8 @@ Tanhua::Tanhua(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     playerLogo_->installEventFilter(this);
     ylä->insertWidget(3, playerLogo_, 0, Qt::AlignTop);
     player_ = new Player(peli_, this);
+    // The panel slides out over the screen's controls on purpose.
+    player_->setProperty("päällä", true);
 }
 
 void Tanhua::Ohje(const char* kontrolli, QWidget* w) {

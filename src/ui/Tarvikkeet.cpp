@@ -91,9 +91,12 @@ Tarvikkeet::Tarvikkeet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     g->addWidget(Teksti(TarvikeRuutuTila::HINTA_OTSIKKO, 11, kortti, false), 2, 0);
     g->addWidget(hinta_, 2, 1);
     g->addWidget(toiminto_, 3, 0, 1, 2);
+    // The card takes the column's height and the supply's text the card's slack: the price and
+    // the button stay at the card's foot for every supply.
+    g->setRowStretch(1, 1);
+    info_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto* oikea = new QVBoxLayout;
-    oikea->addWidget(kortti);
-    oikea->addStretch();
+    oikea->addWidget(kortti, 1);
     AsetteleAlaruutu(this, aihe_, vasen, oikea, ohje_, sulje_);
 }
 

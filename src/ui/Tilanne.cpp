@@ -24,7 +24,7 @@ Ohjain O(const Peli& peli, const QObject* w) { return LueRuudulta(peli, "Tilanne
 
 PainettuAlue::PainettuAlue(const char* nimi, int koko, QWidget* vanhempi) : QFrame(vanhempi), koko_(koko) {
     setObjectName(nimi);
-    setMinimumSize(380, 330);
+    setMinimumSize(300, 300);
 }
 
 void PainettuAlue::AsetaRivit(const std::vector<std::string>& rivit) {
@@ -93,7 +93,7 @@ Tilanne::Tilanne(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(va
     v->setContentsMargins(0, 0, 0, 0);
     alue_ = new PainettuAlue("Alue", 11, vasen);
     tarina_ = new PainettuAlue("Tarina", 10, vasen);
-    tarina_->setMinimumSize(460, 400);
+    tarina_->setMinimumSize(0, 0);
     tarinaSulje_ = Nappi("TarinaSulje", tarina_);
     auto* t = new QVBoxLayout(tarina_);
     t->addStretch();
@@ -116,16 +116,20 @@ Tilanne::Tilanne(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(va
     connect(listat_, &QPushButton::clicked, this, [this] { Toimi(EnnätysListat); });
     connect(uusi_, &QPushButton::clicked, this, &Tilanne::UusiTilanne);
     akkuna_ = Paneeli();
-    oikea->addSpacing(48);  // the money plate stands over the top of the column
+    // The buttons above the save panel, which takes the rest of the column for its list.
+    n->setContentsMargins(10, 8, 10, 8);
+    n->setSpacing(6);
     oikea->addWidget(napit);
-    oikea->addWidget(akkuna_);
-    oikea->addStretch();
+    oikea->addWidget(akkuna_, 1);
+    oikea->addStretch(0);
     AsetteleAlaruutu(this, aihe_, vasen, oikea, ohje_, sulje_);
 }
 
 QFrame* Tilanne::Paneeli() {
     QFrame* p = tanhua::ui::Paneeli(this, "akkuna");
     auto* g = new QGridLayout(p);
+    g->setContentsMargins(10, 8, 10, 8);
+    g->setVerticalSpacing(4);
     g->addWidget(Teksti("Tilanteen nimi :", 11, p, false), 0, 0, 1, 2);
     kohde_ = new QLineEdit(p);
     kohde_->setObjectName("Kohde");
@@ -134,7 +138,7 @@ QFrame* Tilanne::Paneeli() {
     tiedostot_ = new QListWidget(p);
     tiedostot_->setObjectName("File1");
     tiedostot_->setStyleSheet("font-size: 11pt;");
-    tiedostot_->setMinimumHeight(120);
+    tiedostot_->setMinimumHeight(60);
     connect(tiedostot_, &QListWidget::itemClicked, this, [this](QListWidgetItem* rivi) {
         const std::string tiedosto = S(rivi->text());
         ikkuna_.Toimi([this, tiedosto] { ValitseTiedosto(peli_, tiedosto); });

@@ -48,12 +48,17 @@ Tuotteet::Tuotteet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     akkuna_ = Korttipaneeli();
     taulu_ = Kirjanpitäjänpaneeli();
 
+    // The card above the accountant's panel; the accountant's picture sits under the shelf, so
+    // both panels fit the column at once.
     auto* oikea = new QVBoxLayout;
     oikea->addWidget(akkuna_);
-    oikea->addWidget(kirjanpitäjä_, 0, Qt::AlignLeft);
     oikea->addWidget(taulu_);
     oikea->addStretch();
-    AsetteleAlaruutu(this, aihe_, Hylly(), oikea, ohje_, sulje_);
+    QWidget* hylly = Hylly();
+    auto* hyllynRuudukko = static_cast<QGridLayout*>(hylly->layout());
+    hyllynRuudukko->addWidget(kirjanpitäjä_, 8, 0, 1, 2, Qt::AlignLeft | Qt::AlignBottom);
+    hyllynRuudukko->setRowStretch(8, 1);
+    AsetteleAlaruutu(this, aihe_, hylly, oikea, ohje_, sulje_, 1, 1);
 }
 
 QWidget* Tuotteet::Hylly() {
@@ -129,8 +134,10 @@ QFrame* Tuotteet::Korttipaneeli() {
         ikkuna_.Toimi([this, päällä] { Tuotelisäasetus(peli_, päällä); });
     });
     auto* g = new QGridLayout(p);
+    g->setVerticalSpacing(1);
+    g->setContentsMargins(10, 6, 10, 6);
     g->addWidget(nimi_, 0, 0, 1, 2);
-    g->addWidget(korttikuva_, 0, 2, 3, 1, Qt::AlignRight | Qt::AlignTop);
+    g->addWidget(korttikuva_, 0, 2, 4, 1, Qt::AlignRight | Qt::AlignTop);
     const std::array<std::pair<const char*, QLabel*>, 6> rivit{
         std::pair{"Perushinta:", hinta_}, std::pair{"Pörssikurssi:", kurssi_}, std::pair{"Vuodenaika :", vAika_},
         std::pair{"Yhteishinta:", yhinta_}, std::pair{"x Tuotteita :", kpl_}, std::pair{"Yhteensä :", yhthinta_}};
@@ -151,7 +158,8 @@ QFrame* Tuotteet::Korttipaneeli() {
 QFrame* Tuotteet::Kirjanpitäjänpaneeli() {
     QFrame* p = Paneeli(this, "Taulu");
     auto* g = new QGridLayout(p);
-    g->setVerticalSpacing(1);
+    g->setVerticalSpacing(0);
+    g->setContentsMargins(10, 6, 10, 6);
     QLabel* otsikko = Teksti(Sv(tuoteruutu::TAULUN_OTSIKKO), 11, p);
     otsikko->setObjectName("otsikko");
     g->addWidget(otsikko, 0, 0, 1, 4);
@@ -200,7 +208,7 @@ void Tuotteet::Päivitä() {
     akkuna_->setVisible(kortti.näkyvissä);
     if (kortti.näkyvissä) {
         nimi_->setText(QString::fromStdString(kortti.arvo));
-        NäytäKuva(peli_, korttikuva_, "Kuvat/tuotteet/", Lue(peli_, "KorttiKuva"), 96);
+        NäytäKuva(peli_, korttikuva_, "Kuvat/tuotteet/", Lue(peli_, "KorttiKuva"), 80);
         const std::array<std::pair<QWidget*, const char*>, 10> kortilla{
             std::pair<QWidget*, const char*>{hinta_, "hinta"}, {kurssi_, "kurssi"}, {vAika_, "vAika"},
             {yhinta_, "yhinta"}, {kpl_, "kpl"}, {yhthinta_, "Yhthinta"}, {myyKaikki_, "Command2"},

@@ -132,10 +132,13 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     g->addWidget(moti_, 10, 1, 1, 2);
     g->addWidget(Teksti("Stressi :", 11, kortti, false), 11, 0);
     g->addWidget(stres_, 11, 1, 1, 2);
+    // The card takes the column's height and the job's text the card's slack, so the figures and
+    // the buttons stand at the same place for every job.
+    g->setRowStretch(1, 1);
+    info_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto* oikea = new QVBoxLayout;
-    oikea->addWidget(kortti);
-    oikea->addStretch();
-    AsetteleAlaruutu(this, aihe_, vasen, oikea, ohje_, sulje_);
+    oikea->addWidget(kortti, 1);
+    AsetteleAlaruutu(this, aihe_, vasen, oikea, ohje_, sulje_, 1, 1);
 }
 
 void Työvoima::Avaa() { AvaaTyövoima(peli_); }

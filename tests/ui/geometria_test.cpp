@@ -1,0 +1,410 @@
+// Every screen and dialog at 800 x 600: no control runs off the canvas or out of its panel, no two
+// controls that sit side by side cover each other, the money plate covers nothing, and opening a
+// card leaves the screen's other panels where they were.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QAbstractScrollArea>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QLabel>
+#include <QTest>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "animals/kauppa.h"
+#include "buildings/rakentaminen.h"
+#include "buildings/talli.h"
+#include "buildings/tarvikkeet.h"
+#include "career/tilanne.h"
+#include "contracts/sopimukset.h"
+#include "core/viestit.h"
+#include "finance/pankki.h"
+#include "land/kylvö.h"
+#include "land/pellot.h"
+#include "market/markkinat.h"
+#include "market/myynti.h"
+#include "racing/ravit.h"
+#include "stats/käyrät.h"
+#include "storage/topten.h"
+#include "workforce/työvoima.h"
+#include "ui/Eläimet.h"
+#include "ui/Hevostalli.h"
+#include "ui/Kylvö.h"
+#include "ui/Käyrät.h"
+#include "ui/Nosto.h"
+#include "ui/Pankki.h"
+#include "ui/Pellot.h"
+#include "ui/Player.h"
+#include "ui/Rakennukset.h"
+#include "ui/Ravit.h"
+#include "ui/Sopimukset.h"
+#include "ui/Tarvikkeet.h"
+#include "ui/Tilanne.h"
+#include "ui/Topten.h"
+#include "ui/Tuotteet.h"
+#include "ui/Työvoima.h"
+#include "ikkuna.h"
+
+namespace tanhua::ui {
+namespace {
+
+using testi::Ikkuna;
+
+// A widget as a failure names it: its object name, or its class where it has none.
+std::string Nimi(const QWidget* w) {
+    return w->objectName().isEmpty() ? w->metaObject()->className() : w->objectName().toStdString();
+}
+
+// The toolkit's own parts of a control (a list's viewport and bars, a slider's handle) are the
+// control's business, not the screen's.
+bool Kokonainen(const QWidget* w) {
+    return qobject_cast<const QAbstractScrollArea*>(w) || qobject_cast<const QAbstractSpinBox*>(w) ||
+           qobject_cast<const QComboBox*>(w) || qobject_cast<const QAbstractSlider*>(w);
+}
+
+// The children the player sees: shown, not a window of their own, not the toolkit's innards.
+std::vector<QWidget*> NäkyvätLapset(const QWidget* vanhempi) {
+    std::vector<QWidget*> lapset;
+    for (QWidget* w : vanhempi->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (w->isVisible() && !w->isWindow() && !w->objectName().startsWith("qt_") && !w->size().isEmpty())
+            lapset.push_back(w);
+    return lapset;
+}
+
+// A widget laid over its siblings on purpose (the marker over a picture, the player panel over the
+// main screen) carries the property "päällä".
+bool Päällä(const QWidget* w) { return w->property("päällä").toBool(); }
+
+QRect Kankaalla(const QWidget* w, const QWidget* kangas) { return {w->mapTo(kangas, QPoint(0, 0)), w->size()}; }
+
+struct Tarkastus {
+    explicit Tarkastus(Ikkuna& i) : i(i) {
+        i.w->resize(800, 600);
+        // The walk answers what the screens ask on the way: "Kyllä" to a question, the default to
+        // the toolkit's boxes.
+        vastaaja.setInterval(100);
+        QObject::connect(&vastaaja, &QTimer::timeout, [&i] {
+            if (i.w->message()->isVisible()) QTest::keyClick(i.w->message(), Qt::Key_K);
+            else if (auto* kysely = qobject_cast<QDialog*>(QApplication::activeModalWidget())) kysely->accept();
+        });
+        vastaaja.start();
+    }
+
+    // Checks the screen on top of the stack as it is now.
+    void Ruutu(const std::string& tila) { Alue(tila, i.w->pino()->currentWidget()); }
+
+    // Checks one widget (a screen, a panel over it, a box) and everything shown in it.
+    void Alue(const std::string& tila, QWidget* alue) {
+        i.w->Päivitä();
+        QApplication::processEvents();
+        ASSERT_EQ(i.w->pino()->size(), QSize(800, 600));
+        Tallenna(tila, alue);
+        QWidget* kangas = alue->isWindow() ? alue : i.w->pino();
+        const QRect rajat = kangas->rect();
+        if (!rajat.contains(Kankaalla(alue, kangas)))
+            EXPECT_TRUE(false) << tila << ": " << Nimi(alue) << " runs off the 800 x 600 canvas";
+        Lapset(tila, alue, kangas);
+        if (QWidget* kyltti = i.w->rahaKyltti(); kyltti->isVisible() && !alue->isWindow()) Kyltti(tila, alue, kyltti);
+    }
+
+    // The geometry of a screen's panels and buttons, to compare before and after a card opens.
+    static std::map<const QWidget*, QRect> Paikat(QWidget* ruutu) {
+        std::map<const QWidget*, QRect> paikat;
+        for (QWidget* w : ruutu->findChildren<QWidget*>()) {
+            const bool paneeli = qobject_cast<QFrame*>(w) && !qobject_cast<QLabel*>(w);
+            if (w->isVisible() && (paneeli || qobject_cast<QAbstractButton*>(w))) paikat[w] = Kankaalla(w, ruutu);
+        }
+        return paikat;
+    }
+    // Everything shown both times stands where it stood.
+    static void EiSiirry(const std::string& tila, const std::map<const QWidget*, QRect>& ennen, QWidget* ruutu) {
+        QApplication::processEvents();
+        for (const auto& [w, paikka] : Paikat(ruutu)) {
+            const auto vanha = ennen.find(w);
+            if (vanha != ennen.end())
+                EXPECT_EQ(vanha->second, paikka) << tila << ": " << Nimi(w) << " moved when the card opened";
+        }
+    }
+
+    Ikkuna& i;
+    QTimer vastaaja;
+
+private:
+    void Lapset(const std::string& tila, QWidget* vanhempi, QWidget* kangas) {
+        const std::vector<QWidget*> lapset = NäkyvätLapset(vanhempi);
+        for (std::size_t a = 0; a < lapset.size(); ++a) {
+            QWidget* w = lapset[a];
+            if (!kangas->rect().contains(Kankaalla(w, kangas)))
+                ADD_FAILURE() << tila << ": " << Nimi(w) << " runs off the 800 x 600 canvas";
+            else if (!vanhempi->rect().contains(w->geometry()))
+                ADD_FAILURE() << tila << ": " << Nimi(w) << " runs out of " << Nimi(vanhempi);
+            for (std::size_t b = a + 1; b < lapset.size(); ++b)
+                if (!Päällä(w) && !Päällä(lapset[b]) && w->geometry().intersects(lapset[b]->geometry()))
+                    ADD_FAILURE() << tila << ": " << Nimi(w) << " and " << Nimi(lapset[b]) << " overlap in "
+                                  << Nimi(vanhempi);
+            if (!Kokonainen(w)) Lapset(tila, w, kangas);
+        }
+    }
+
+    void Kyltti(const std::string& tila, QWidget* ruutu, QWidget* kyltti) {
+        const QRect laatta = Kankaalla(kyltti, i.w->pino());
+        for (QWidget* w : ruutu->findChildren<QWidget*>())
+            if (w->isVisible() && !w->isWindow() && Kankaalla(w, i.w->pino()).intersects(laatta))
+                ADD_FAILURE() << tila << ": the money plate covers " << Nimi(w);
+    }
+
+    // With TANHUA_GEOMETRIA set to a folder, each state is saved there as a picture to look at.
+    static void Tallenna(const std::string& tila, QWidget* alue) {
+        const QString kansio = qEnvironmentVariable("TANHUA_GEOMETRIA");
+        if (kansio.isEmpty()) return;
+        QDir().mkpath(kansio);
+        QWidget* kuvattava = alue->isWindow() ? alue : alue->window();
+        kuvattava->grab().save(QDir(kansio).filePath(QString::fromStdString(tila) + ".png"));
+    }
+};
+
+// A farm a player has run for a while: stock in the store, cash, some of everything built.
+void Tila(Ikkuna& i) {
+    i.Aloita();
+    Muuttujat& m = i.peli.m;
+    m.OhjeetPäällä = true;
+    Aseta(m.Raha, 250000);
+    Aseta(m.Tähdet, 2);
+    Aseta(m.Koko_Navetta, 100);
+    Aseta(m.Koko_Varasto, 20000);
+    Aseta(m.Var[Maito], 1234);
+    Aseta(m.Var[Rehu], 500);
+    Aseta(m.El[Nauta][Naaras], 12);
+    Aseta(m.Työ[Kirjanpitäjä], 1);
+    Aseta(m.Pelto, 20);
+    Aseta(m.Metsä, 10);
+    for (const Rakennus r : {Meijeri, Teurastamo, Rakennus::Hevostalli}) Aseta(m.Rak[r], 1);
+}
+
+TEST(Geometry, TheMainScreenItsPlayerAndTheNewsWindow) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    t.Ruutu("Tanhua");
+    i.w->AvaaSoitin();
+    t.Ruutu("Tanhua-Player");
+    i.w->PiilotaSoitin();
+    Kerro(i.peli, "Kuvat/sattumat/Onnittelu.jpg", "Onnea! Tilasi on kasvanut ja naapurit ovat kateellisia.");
+    t.Alue("ikkuna", i.w->uutiset());
+    i.w->uutiset()->Command1()->click();
+}
+
+TEST(Geometry, TheMessageBoxOfBothKinds) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    for (const auto& [tyyli, teksti] : {std::pair{1, "Menetät nykyisen tilanteesi. Oletko aivan varma?"},
+                                        std::pair{0, "Rahasi eivät riitä!\n\nRahatilanteesi on  1500\nEläin maksaa "
+                                                     " 5000\nSinulta puuttuu  3500"}}) {
+        i.w->message()->Valmistele(teksti, tyyli);
+        i.w->message()->show();
+        t.Alue("Message-" + std::to_string(tyyli), i.w->message());
+        EXPECT_LE(i.w->message()->width(), 800);
+        EXPECT_LE(i.w->message()->height(), 600);
+        i.w->message()->hide();
+    }
+}
+
+TEST(Geometry, TheAnimalsWithEachCardAndTheirPanels) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->eläimet());
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->eläimet());
+    t.Ruutu("Eläimet");
+    const auto ennen = Tarkastus::Paikat(i.w->eläimet());
+    for (int kortti = 0; kortti < 12; ++kortti) {
+        ValitseEläin(i.peli, kortti);
+        t.Ruutu("Eläimet-" + std::to_string(kortti));
+    }
+    Tarkastus::EiSiirry("Eläimet", ennen, i.w->eläimet());
+    for (const bool nylky : {false, true}) {
+        AvaaTeuraspaneeli(i.peli, nylky);
+        t.Ruutu(nylky ? "Eläimet-Nahkuri" : "Eläimet-Teurastamo");
+        AvaaTeuraspaneeli(i.peli, nylky);
+    }
+}
+
+TEST(Geometry, TheProductsWithEachCardAndTheAccountant) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->tuotteet());
+    ASSERT_EQ(i.w->pino()->currentWidget(), i.w->tuotteet());
+    t.Ruutu("Tuotteet");
+    const auto ennen = Tarkastus::Paikat(i.w->tuotteet());
+    for (std::size_t k = 0; k < TUOTTEITA; ++k) {
+        AvaaTuote(i.peli, static_cast<Tuote>(k));
+        t.Ruutu("Tuotteet-" + std::to_string(k));
+    }
+    Tarkastus::EiSiirry("Tuotteet", ennen, i.w->tuotteet());
+    KirjanpitäjäKuva(i.peli);
+    t.Ruutu("Tuotteet-Kirjanpitäjä");
+}
+
+TEST(Geometry, TheBuildingsWithEachTarget) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->rakennukset());
+    t.Ruutu("Rakennukset");
+    const auto ennen = Tarkastus::Paikat(i.w->rakennukset());
+    for (std::size_t kohde = 0; kohde < TYÖMAITA; ++kohde) {
+        ValitseKohde(i.peli, kohde);
+        t.Ruutu("Rakennukset-" + std::to_string(kohde));
+    }
+    Tarkastus::EiSiirry("Rakennukset", ennen, i.w->rakennukset());
+}
+
+TEST(Geometry, TheStaffWithEachJob) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->työvoima());
+    t.Ruutu("Työvoima");
+    const auto ennen = Tarkastus::Paikat(i.w->työvoima());
+    for (std::size_t työ = 0; työ < TYÖLÄISIÄ; ++työ) {
+        ValitseTyöläinen(i.peli, static_cast<Työläinen>(työ));
+        t.Ruutu("Työvoima-" + std::to_string(työ));
+    }
+    Tarkastus::EiSiirry("Työvoima", ennen, i.w->työvoima());
+}
+
+TEST(Geometry, TheBankWithEachSheetAndTheMarketReport) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->pankki());
+    t.Ruutu("Pankki");
+    const auto ennen = Tarkastus::Paikat(i.w->pankki());
+    OtaLainaa(i.peli);
+    t.Ruutu("Pankki-Laina");
+    SuljeLappu(i.peli);
+    TalletaRahaa(i.peli);
+    t.Ruutu("Pankki-Talletus");
+    SuljeLappu(i.peli);
+    AvaaVakuutukset(i.peli);
+    t.Ruutu("Pankki-Vakuutukset");
+    Tarkastus::EiSiirry("Pankki", ennen, i.w->pankki());
+    SuljeVakuutukset(i.peli);
+    i.w->NäytäPörssiraportti();
+    t.Ruutu("Pörssikurssit");
+}
+
+TEST(Geometry, TheSuppliesWithEachList) {
+    Ikkuna i;
+    Tila(i);
+    Aseta(i.peli.m.TähtiLukitus, false);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->tarvikkeet());
+    t.Ruutu("Tarvikkeet");
+    const auto ennen = Tarkastus::Paikat(i.w->tarvikkeet());
+    int n = 0;
+    for (void (*lista)(Peli&) : {NäytäYleiset, NäytäLisälaitteet}) {
+        lista(i.peli);
+        const std::vector<TarvikeRivinro> rivit = i.peli.tarvikeruutu.Lista;
+        for (const TarvikeRivinro rivi : rivit) {
+            ValitseTarvike(i.peli, rivi);
+            t.Ruutu("Tarvikkeet-" + std::to_string(n++));
+        }
+    }
+    Tarkastus::EiSiirry("Tarvikkeet", ennen, i.w->tarvikkeet());
+}
+
+TEST(Geometry, TheLandWithEachPieceAndTheSowingAndHarvest) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->pellot());
+    t.Ruutu("Pellot");
+    for (const Maa maa : {MaaPelto, MaaMetsä, MaaJoutomaa, MaaLaidun}) {
+        ValitseMaa(i.peli, maa);
+        t.Ruutu("Pellot-" + std::to_string(static_cast<int>(maa)));
+    }
+    AvaaMetsuriValikko(i.peli);
+    t.Ruutu("Pellot-Metsuri");
+    i.w->pellot()->AvaaKylvö();
+    t.Ruutu("Kylvö");
+    i.w->kylvö()->Palaa();
+    i.w->pellot()->AvaaNosto();
+    t.Ruutu("Nosto");
+}
+
+TEST(Geometry, TheStableTheContractsAndTheCoupon) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->hevostalli());
+    t.Ruutu("Hevostalli");
+    i.w->AvaaRuutu(i.w->sopimukset());
+    t.Ruutu("Sopimukset");
+    UudetSopimukset(i.peli);
+    t.Ruutu("Sopimukset-Tarjoukset");
+    i.peli.m.Sop = {Sopimus{"Maito", 450, 2700, 3600, 17}, Sopimus{"Muna", 120, 480, 640, 9},
+                    Sopimus{"Puu", 30, 1800, 2400, 12}};
+    SuljeTarjoukset(i.peli);
+    NäytäSopimukset(i.peli);
+    t.Ruutu("Sopimukset-Paikat");
+    i.w->AvaaRavit();
+    t.Ruutu("Ravit");
+    LyöVetoa(i.peli);
+    ValitseVetolaji(i.peli, vetolaji::Trio);
+    NäytäRivi(i.peli, 1);
+    t.Ruutu("Ravit-Kuponki");
+}
+
+TEST(Geometry, TheCurvesWithEachChartAndTable) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    i.w->AvaaRuutu(i.w->käyrät());
+    t.Ruutu("Käyrät");
+    for (std::size_t k = 0; k < KÄYRIÄ; ++k) {
+        PiirräKäyrä(i.peli, static_cast<Käyrä>(k));
+        t.Ruutu("Käyrät-" + std::to_string(k));
+    }
+    TuotteidenBrutto(i.peli);
+    t.Ruutu("Käyrät-Brutto");
+    TuotteidenNetto(i.peli);
+    t.Ruutu("Käyrät-Netto");
+}
+
+TEST(Geometry, TheCareerScreensAndTheMonthReport) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    QTest::mouseClick(i.w->tanhua()->Command7(), Qt::LeftButton);
+    t.Ruutu("Tilanne");
+    AvaaPaneeli(i.peli);
+    t.Ruutu("Tilanne-Paneeli");
+    SuljePaneeli(i.peli);
+    QTest::mouseClick(i.w->tilanne()->Command4(), Qt::LeftButton);
+    t.Ruutu("Tilanne-Tarina");
+    SuljeTarina(i.peli);
+    EnnätysListat(i.peli);
+    t.Ruutu("Topten");
+}
+
+TEST(Geometry, TheMonthReport) {
+    Ikkuna i;
+    Tila(i);
+    Tarkastus t(i);
+    Aseta(i.peli.m.Päivä, 29);
+    while (!i.peli.näkymä.RaporttiAuki) i.w->SeuraavaPäivä();
+    t.Ruutu("Raportti");
+}
+
+}  // namespace
+}  // namespace tanhua::ui
