@@ -2,11 +2,14 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 // own
 #include "core/peli.h"
 // Qt
+#include <QFont>
 #include <QPushButton>
+#include <QRect>
 #include <QWidget>
 
 namespace tanhua::ui {
@@ -17,6 +20,17 @@ public:
     void Tulosta(const RaporttiSivu& sivu);
     const RaporttiSivu& Sivu() const { return sivu_; }
     QPushButton* Command1() const { return sulje_; }
+
+    // Where the page's print stands: the two leaves of the book, clear of the fold, and each
+    // line's place on its leaf (a rule from its column to the leaf's edge). The lines fill the
+    // left leaf and go on on the right one; the letters get smaller until the widest line fits.
+    struct Taitto {
+        QRect vasen, oikea;
+        QFont otsikonFontti, fontti;
+        QRect otsikko;
+        std::vector<QRect> rivit;  // in the order of the page's lines
+    };
+    Taitto Asettele() const;
 
     // What the frame does once "Sulje raportti" has closed the page.
     std::function<void()> Suljettu;

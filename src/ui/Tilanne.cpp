@@ -15,6 +15,8 @@
 #include <QPainterPath>
 #include <QRandomGenerator>
 #include <QVBoxLayout>
+// std
+#include <algorithm>
 
 namespace tanhua::ui {
 
@@ -56,9 +58,17 @@ void PainettuAlue::paintEvent(QPaintEvent*) {
     p.setPen(QPen(QColor(107, 74, 34), 2));
     p.setBrush(QColor(255, 250, 235, tausta_.isNull() ? 230 : 190));
     p.drawRoundedRect(arkki, 10, 10);
+    // The print keeps to the sheet: the widest line makes the letters smaller until it fits.
     QFont fontti = font();
     fontti.setPointSize(koko_);
+    auto leveys = [this](const QFont& f) {
+        int suurin = 0;
+        for (const QString& rivi : rivit_) suurin = std::max(suurin, QFontMetrics(f).horizontalAdvance(rivi));
+        return suurin;
+    };
+    while (fontti.pointSize() > 6 && leveys(fontti) > width() - 28) fontti.setPointSize(fontti.pointSize() - 1);
     p.setFont(fontti);
+    p.setClipRect(arkki.adjusted(4, 4, -4, -4));
     p.setPen(QColor(36, 22, 10));
     const int rivinKorkeus = p.fontMetrics().height();
     int y = 12 + p.fontMetrics().ascent();

@@ -43,6 +43,7 @@
 #include "ui/Pellot.h"
 #include "ui/Player.h"
 #include "ui/Rakennukset.h"
+#include "ui/Raportti.h"
 #include "ui/Ravit.h"
 #include "ui/Sopimukset.h"
 #include "ui/Tarvikkeet.h"
@@ -404,6 +405,29 @@ TEST(Geometry, TheMonthReport) {
     Aseta(i.peli.m.Päivä, 29);
     while (!i.peli.näkymä.RaporttiAuki) i.w->SeuraavaPäivä();
     t.Ruutu("Raportti");
+    Raportti* r = i.w->raportti();
+    // The month's page, then a page longer than a leaf with a line wider than one: every line,
+    // the rule too, stays on its leaf and off the fold; the long page goes on on the right leaf.
+    RaporttiSivu pitkä = r->Sivu();
+    pitkä.otsikko = "Matti Meikäläinen Ylä-Tanhuan Tilalta - Kuukausiraportti :  30. 6. 1980";
+    for (int n = 0; n < 40; ++n) pitkä.rivit.push_back({MUSTA, 5, "Omaisuus, kiinteistö- ja maavero : - " + std::to_string(n)});
+    for (const RaporttiSivu& sivu : {r->Sivu(), pitkä}) {
+        r->Tulosta(sivu);
+        const Raportti::Taitto taitto = r->Asettele();
+        const int taite = r->width() / 2;
+        EXPECT_LT(taitto.vasen.right(), taite);
+        EXPECT_GT(taitto.oikea.left(), taite);
+        EXPECT_TRUE(taitto.vasen.contains(taitto.otsikko)) << "the title crosses the fold";
+        ASSERT_EQ(taitto.rivit.size(), sivu.rivit.size());
+        bool oikealla = false;
+        for (std::size_t n = 0; n < sivu.rivit.size(); ++n) {
+            const QRect& rivi = taitto.rivit[n];
+            EXPECT_TRUE(taitto.vasen.contains(rivi) || taitto.oikea.contains(rivi))
+                << "line " << n << " \"" << sivu.rivit[n].teksti << "\" leaves its leaf";
+            oikealla |= taitto.oikea.contains(rivi);
+        }
+        EXPECT_EQ(oikealla, sivu.rivit.size() > 30) << "only a long page goes on on the right leaf";
+    }
 }
 
 }  // namespace
