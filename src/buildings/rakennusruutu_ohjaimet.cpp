@@ -31,14 +31,22 @@ Ohjain PaneelinKuva(const Peli& p, std::string (*kuva)(Rakennus)) {
 }
 
 // A target's picture: its file, with the pointer's tip under the heading "Rakennus : " and the
-// name where the picture has one.
+// name, or the heading alone where the picture has no tip.
 Ohjain Kuva(std::size_t kohde) {
     const std::string_view tiedosto =
         OnVarastotila(kohde) ? TILATAULU[kohde - RAKENNUKSIA].kuva : RAKENNUSTAULU[kohde].kuva;
     Ohjain o = Näkyvä(std::string(tiedosto));
     const KatalogiRivi& rivi = RAKENNUSKATALOGI[kohde];
-    if (!rivi.vihjeOtsikko.empty()) o.vihje = std::string(rivi.vihjeOtsikko) + "\n" + std::string(rivi.vihje);
+    // A picture without a tip of its own still tells its name, so no building is a guess.
+    o.vihje = rivi.vihjeOtsikko.empty() ? "Rakennus : " + std::string(rivi.avain)
+                                        : std::string(rivi.vihjeOtsikko) + "\n" + std::string(rivi.vihje);
     return o;
+}
+
+// The tip of a locked building: the stars that open it.
+std::string LukonVihje(int tähdet) {
+    return "Lukittu. Avautuu, kun tilallasi on" + Str(static_cast<long long>(tähdet)) +
+           (tähdet == 1 ? " tähti." : " tähteä.");
 }
 
 // A target's day label: its days, or "Lukittu" in red over a building the stars lock. Only a
@@ -47,6 +55,8 @@ Ohjain PäiväLabel(const Peli& p, std::size_t kohde) {
     if (!R(p).päivätNäkyvät[kohde]) return Piilossa();
     Ohjain o = Näkyvä(R(p).päivät[kohde]);
     if (!OnVarastotila(kohde)) o.väri = R(p).päivätPunaisella[kohde] ? PUNAINEN : MUSTA;
+    // "Lukittu" tells in its tip how many stars open the building.
+    if (R(p).päivätPunaisella[kohde]) o.vihje = LukonVihje(RAKENNUSKATALOGI[kohde].tähdet);
     return o;
 }
 

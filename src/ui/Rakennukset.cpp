@@ -187,6 +187,7 @@ void Rakennukset::Päivitä() {
     for (std::size_t kohde = 0; kohde < TYÖMAITA; ++kohde) {
         const Ohjain päivät = Lue(peli_, PäiväLabel(kohde));
         Näytä(päivät_[kohde], päivät);
+        päivät_[kohde]->setToolTip(Q(päivät.vihje));
         const std::uint32_t väri = päivät.väri.value_or(MUSTA);
         päivät_[kohde]->setStyleSheet(QString("color: rgb(%1,%2,%3); font-weight: bold;")
                                           .arg(väri & 0xFF).arg((väri >> 8) & 0xFF).arg((väri >> 16) & 0xFF));

@@ -141,7 +141,15 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     AsetteleAlaruutu(this, aihe_, vasen, oikea, ohje_, sulje_, 1, 1);
 }
 
-void Työvoima::Avaa() { AvaaTyövoima(peli_); }
+void Työvoima::Avaa() {
+    AvaaTyövoima(peli_);
+    // The rules open the screen with the card empty until a job is clicked. The window shows the
+    // first job of the list at once, by the same click a player would make, so the screen never
+    // opens on a blank card; the record follows the click's own rules, and the runner, which has
+    // no screen to look at, opens it empty.
+    if (peli_.työvoimaruutu.valittu < 0)
+        if (const auto tarjolla = TarjolleTyöläiset(peli_.m); !tarjolla.empty()) ValitseTyöläinen(peli_, tarjolla.front());
+}
 
 void Työvoima::Päivitä() {
     const TyövoimaRuutuTila& t = peli_.työvoimaruutu;

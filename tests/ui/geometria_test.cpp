@@ -274,6 +274,8 @@ TEST(Geometry, TheStaffWithEachJob) {
     Tila(i);
     Tarkastus t(i);
     i.w->AvaaRuutu(i.w->työvoima());
+    // The screen opens on the first job's card, not an empty one.
+    EXPECT_EQ(i.w->työvoima()->findChild<QLabel*>("työ")->text(), "Kirjanpitäjä");
     t.Ruutu("Työvoima");
     const auto ennen = Tarkastus::Paikat(i.w->työvoima());
     for (std::size_t työ = 0; työ < TYÖLÄISIÄ; ++työ) {

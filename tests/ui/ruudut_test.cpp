@@ -113,6 +113,10 @@ TEST(Screens, TheBuildingScreenShowsItsControlsAsTheGameReadsThem) {
     QTest::mouseClick(r->Command2(), Qt::LeftButton);
     VertaaRuutua(i.peli, r, "Rakennukset");
     EXPECT_EQ(r->findChild<QLabel*>("RakenneSahaz")->text(), "Lukittu");
+    // The locked label tells the stars that open it; a picture with no tip of its own its name.
+    EXPECT_EQ(r->findChild<QLabel*>("RakenneSahaz")->toolTip(), "Lukittu. Avautuu, kun tilallasi on 2 tähteä.");
+    EXPECT_EQ(r->findChild<QLabel*>("RakenneNavettaz")->toolTip(), "");
+    EXPECT_EQ(r->Kuva(Mehiläistarha)->toolTip(), "Rakennus : Mehiläistarha");
     EXPECT_EQ(r->findChild<QLabel*>("RakenneNavettaz")->text(), "50 päivää");
     EXPECT_EQ(r->Command2()->text(), "Laajenna");
     EXPECT_EQ(r->hintanäky()->text(), " 20000");
