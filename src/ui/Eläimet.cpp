@@ -92,7 +92,7 @@ QWidget* Eläimet::Kortisto() {
     urokset->setProperty("kohde", static_cast<int>(EläinKohde::Urokset));
     urokset->installEventFilter(this);
     g->addWidget(urokset, 0, 2, 1, 2);
-    QLabel* nuoret = Teksti("Nuoret / Poikaset", 11, kortisto);
+    QLabel* nuoret = Teksti("Nuoret / Poikaset", 10, kortisto);
     nuoret->setProperty("kohde", static_cast<int>(EläinKohde::Nuoret));
     nuoret->installEventFilter(this);
     g->addWidget(nuoret, 0, 4, 1, 2);

@@ -3,6 +3,7 @@
 
 // own
 #include "Pääikkuna.h"
+#include "RahaKyltti.h"
 #include "core/ohjaimet.h"
 #include "land/kylvö.h"
 #include "land/taulut/kylvö.h"
@@ -32,6 +33,8 @@ Kylvö::Kylvö(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     // The crops, each with its planned area; a click on an area clears it.
     QFrame* kasvit = Paneeli(this, "kasvit");
     auto* g = new QGridLayout(kasvit);
+    g->setContentsMargins(10, 8, 10, 8);
+    g->setHorizontalSpacing(4);
     g->addWidget(Teksti("Kylvettävät kasvit :", 14, kasvit), 0, 0, 1, 3);
     for (int k = 0; k < 3; ++k) {
         kuvat_[k] = new QLabel(kasvit);
@@ -45,7 +48,7 @@ Kylvö::Kylvö(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
         alat_[k]->setToolTip("Klikkaa nollataksesi");
         alat_[k]->installEventFilter(this);
         g->addWidget(kuvat_[k], 1, k, Qt::AlignCenter);
-        g->addWidget(Teksti(Sv(KASVITAULU[k].otsikko), 12, kasvit), 2, k, Qt::AlignCenter);
+        g->addWidget(Teksti(Sv(KASVITAULU[k].otsikko), 11, kasvit), 2, k, Qt::AlignCenter);
         g->addWidget(alat_[k], 3, k);
     }
     kylvetään_ = Nimetty("kylvetään", 12, kasvit);
@@ -86,8 +89,8 @@ Kylvö::Kylvö(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     keski->addWidget(akkuna_);
     keski->addStretch();
     auto* pää = new QHBoxLayout(this);
-    pää->setContentsMargins(16, 100, 16, 12);  // room for the money plate above
-    pää->addWidget(kasvit, 3);
+    pää->setContentsMargins(16, 12 + RahaKyltti::KORKEUS + 8, 16, 12);  // the money plate's row above
+    pää->addWidget(kasvit, 4);
     pää->addLayout(keski, 3);
     pää->addWidget(arkki, 3);
 }

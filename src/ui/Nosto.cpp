@@ -3,6 +3,7 @@
 
 // own
 #include "Pääikkuna.h"
+#include "RahaKyltti.h"
 #include "core/ohjaimet.h"
 #include "land/kylvö.h"
 #include "land/taulut/kylvö.h"
@@ -50,11 +51,14 @@ Nosto::Nosto(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanhem
     korjaa_->setObjectName("Command2");
     peru_ = new QPushButton(arvio);
     peru_->setObjectName("Command1");
-    auto* napit = new QHBoxLayout;
+    // Two by two, each caption whole.
+    auto* napit = new QGridLayout;
+    int n = 0;
     for (QPushButton* b : {laske_, kustannukset_, korjaa_, peru_}) {
         Teksturoi(peli_, b, "nappi2.jpg", 11, 12);
         b->setMinimumHeight(36);
-        napit->addWidget(b);
+        napit->addWidget(b, n / 2, n % 2);
+        ++n;
     }
     g->addLayout(napit, 6, 0, 1, 5);
     g->setRowStretch(7, 1);
@@ -72,7 +76,7 @@ Nosto::Nosto(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanhem
     v->addWidget(arkki_, 1);
 
     auto* pää = new QHBoxLayout(this);
-    pää->setContentsMargins(16, 100, 16, 12);  // room for the money plate above
+    pää->setContentsMargins(16, 12 + RahaKyltti::KORKEUS + 8, 16, 12);  // the money plate's row above
     pää->addWidget(arvio, 3);
     pää->addWidget(sivu, 2);
 }

@@ -54,8 +54,8 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     connect(pörssi_, &QPushButton::clicked, this, [this] { ikkuna_.NäytäPörssiraportti(); });
     // The account's figures at the top of the card, its six buttons filling the rest in pairs.
     auto* g = new QGridLayout(tili);
-    g->setContentsMargins(18, 14, 18, 18);
-    g->setHorizontalSpacing(14);
+    g->setContentsMargins(12, 14, 12, 18);
+    g->setHorizontalSpacing(10);
     g->setVerticalSpacing(10);
     g->addWidget(Teksti("Laina :", 12, tili, false), 0, 0);
     g->addWidget(lainaz_, 0, 1);
@@ -81,7 +81,7 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     auto* oikea = new QVBoxLayout;
     oikea->addWidget(lappu_, 1);
     oikea->addWidget(vakuLappu_, 1);
-    AsetteleAlaruutu(this, aihe_, tili, oikea, ohje_, sulje_, 1, 1);
+    AsetteleAlaruutu(this, aihe_, tili, oikea, ohje_, sulje_, 6, 5);
 }
 
 QFrame* Pankki::Lappu() {
@@ -142,7 +142,10 @@ QFrame* Pankki::VakuLappu() {
     g->addWidget(vakuOtsikko_, 0, 0, 1, 2);
     g->setContentsMargins(16, 12, 16, 16);
     g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 12, p), 1, 0);
-    g->addWidget(Teksti(Sv(pankkiteksti::Rastita), 10, p, false), 1, 1, Qt::AlignRight);
+    QLabel* rastita = Teksti(Sv(pankkiteksti::Rastita), 10, p, false);
+    rastita->setWordWrap(true);
+    rastita->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    g->addWidget(rastita, 1, 1);
     for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
         const VakuutusRivi& rivi = VAKUUTUSTAULU[v];
         vakuutukset_[v] = new QCheckBox(Sv(rivi.nimi), p);

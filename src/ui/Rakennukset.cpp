@@ -43,7 +43,7 @@ Rakennukset::Rakennukset(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     connect(sulje_, &QPushButton::clicked, this, &Rakennukset::Sulje);
 
     QFrame* kortti = Paneeli(this, "tilaus");
-    nimi_ = Teksti("", 16, kortti);
+    nimi_ = Teksti("", 14, kortti);
     korttikuva_ = new QLabel(kortti);
     taso_ = Teksti("", 12, kortti);
     info_ = Teksti("", 9, kortti, false);

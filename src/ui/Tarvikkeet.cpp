@@ -68,6 +68,7 @@ Tarvikkeet::Tarvikkeet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
 
     QFrame* kortti = Paneeli(this, "tarvike");
     nimi_ = Teksti("", 15, kortti);
+    nimi_->setWordWrap(true);
     nimi_->setObjectName("nimi");
     info_ = Teksti("", 10, kortti, false);
     info_->setObjectName("info");

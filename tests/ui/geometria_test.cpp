@@ -12,6 +12,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
+#include <QPushButton>
 #include <QTest>
 
 #include <map>
@@ -146,6 +147,21 @@ private:
                 ADD_FAILURE() << tila << ": " << Nimi(w) << " runs off the 800 x 600 canvas";
             else if (!vanhempi->rect().contains(w->geometry()))
                 ADD_FAILURE() << tila << ": " << Nimi(w) << " runs out of " << Nimi(vanhempi);
+            // A button shows its whole caption, a one-line label its whole text: the padding of
+            // the game's buttons may give way, the letters may not.
+            if (auto* nappi = qobject_cast<QPushButton*>(w); nappi && !nappi->text().isEmpty()) {
+                const int teksti = nappi->fontMetrics().horizontalAdvance(nappi->text());
+                if (teksti > nappi->contentsRect().width() - 4)
+                    ADD_FAILURE() << tila << ": the caption of " << Nimi(w) << " \"" << nappi->text().toStdString()
+                                  << "\" is cut";
+            }
+            if (auto* l = qobject_cast<QLabel*>(w); l && !l->wordWrap() && !l->text().contains('\n') &&
+                                                    l->textFormat() != Qt::RichText && !l->text().contains('<')) {
+                const int teksti = l->fontMetrics().horizontalAdvance(l->text());
+                if (teksti > l->contentsRect().width() + 1)
+                    ADD_FAILURE() << tila << ": the text of " << Nimi(w) << " \"" << l->text().toStdString()
+                                  << "\" is cut";
+            }
             for (std::size_t b = a + 1; b < lapset.size(); ++b)
                 if (!Päällä(w) && !Päällä(lapset[b]) && w->geometry().intersects(lapset[b]->geometry()))
                     ADD_FAILURE() << tila << ": " << Nimi(w) << " and " << Nimi(lapset[b]) << " overlap in "
