@@ -34,11 +34,11 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     connect(sulje_, &QPushButton::clicked, this, &Pankki::Sulje);
 
     QFrame* tili = Paneeli(this, "tili");
-    lainaz_ = Teksti("", 14, tili);
+    lainaz_ = Teksti("", 16, tili);
     lainaz_->setObjectName("lainaz");
-    tiliz_ = Teksti("", 14, tili);
+    tiliz_ = Teksti("", 16, tili);
     tiliz_->setObjectName("tiliz");
-    maksuaikaz_ = Teksti("", 12, tili);
+    maksuaikaz_ = Teksti("", 14, tili);
     maksuaikaz_->setObjectName("Maksuaikaz");
     otaLainaa_ = AlaruudunNappi(peli_, "Command2", tili);
     maksa_ = AlaruudunNappi(peli_, "Command3", tili);
@@ -69,11 +69,14 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
     g->addWidget(nosta_, 4, 1);
     g->addWidget(pörssi_, 5, 0);
     g->addWidget(vaku_, 5, 1);
-    g->setRowStretch(6, 1);
+    // The three pairs share the card's height below the figures.
     for (QPushButton* nappi : {otaLainaa_, maksa_, talleta_, nosta_, pörssi_, vaku_}) {
         nappi->setMinimumHeight(52);
-        nappi->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        nappi->setMaximumHeight(84);
+        nappi->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     }
+    g->setRowMinimumHeight(2, 40);
+    for (int rivi = 3; rivi <= 5; ++rivi) g->setRowStretch(rivi, 1);
 
     lappu_ = Lappu();
     vakuLappu_ = VakuLappu();
@@ -141,11 +144,9 @@ QFrame* Pankki::VakuLappu() {
     vakuOtsikko_ = Teksti("", 15, p);
     g->addWidget(vakuOtsikko_, 0, 0, 1, 2);
     g->setContentsMargins(16, 12, 16, 16);
-    g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 12, p), 1, 0);
-    QLabel* rastita = Teksti(Sv(pankkiteksti::Rastita), 10, p, false);
-    rastita->setWordWrap(true);
-    rastita->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    g->addWidget(rastita, 1, 1);
+    // The heading, and under it the line that asks for ticks, each across the sheet.
+    g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 12, p), 1, 0, 1, 2);
+    g->addWidget(Teksti(Sv(pankkiteksti::Rastita), 10, p, false), 2, 0, 1, 2);
     for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
         const VakuutusRivi& rivi = VAKUUTUSTAULU[v];
         vakuutukset_[v] = new QCheckBox(Sv(rivi.nimi), p);
@@ -155,8 +156,8 @@ QFrame* Pankki::VakuLappu() {
         vakuutukset_[v]->installEventFilter(this);
         maksut_[v] = Teksti("", 11, p);
         maksut_[v]->setObjectName(Sv(rivi.maksu));
-        g->addWidget(vakuutukset_[v], 2 + v, 0);
-        g->addWidget(maksut_[v], 2 + v, 1, Qt::AlignRight);
+        g->addWidget(vakuutukset_[v], 3 + v, 0);
+        g->addWidget(maksut_[v], 3 + v, 1, Qt::AlignRight);
         connect(vakuutukset_[v], &QCheckBox::clicked, this, [this, v](bool päällä) {
             ikkuna_.Toimi([this, v, päällä] { VaihdaVakuutus(peli_, static_cast<tanhua::Vakuutus>(v), päällä); });
         });
@@ -178,11 +179,11 @@ QFrame* Pankki::VakuLappu() {
     summa->addStretch();
     summa->addWidget(vakusumma_);
     summa->addWidget(Teksti(summarivi.mid(summarivi.lastIndexOf('/')), 11, p, false));
-    g->addLayout(summa, 7, 0, 1, 2);
-    g->addWidget(vakuinfo_, 8, 0, 1, 2, Qt::AlignTop);
-    g->setRowStretch(8, 1);
+    g->addLayout(summa, 8, 0, 1, 2);
+    g->addWidget(vakuinfo_, 9, 0, 1, 2, Qt::AlignTop);
+    g->setRowStretch(9, 1);
     suljeVaku_->setMinimumHeight(46);
-    g->addWidget(suljeVaku_, 9, 0, 1, 2);
+    g->addWidget(suljeVaku_, 10, 0, 1, 2);
     p->hide();
     return p;
 }

@@ -205,8 +205,12 @@ void Tila(Ikkuna& i) {
     for (const Rakennus r : {Meijeri, Teurastamo, Rakennus::Hevostalli}) Aseta(m.Rak[r], 1);
 }
 
-TEST(Geometry, TheMainScreenItsPlayerAndTheNewsWindow) {
+TEST(Geometry, TheStartScreenTheMainScreenItsPlayerAndTheNewsWindow) {
     Ikkuna i;
+    {
+        Tarkastus alku(i);
+        alku.Ruutu("Alku");
+    }
     Tila(i);
     Tarkastus t(i);
     t.Ruutu("Tanhua");
@@ -348,10 +352,12 @@ TEST(Geometry, TheLandWithEachPieceAndTheSowingAndHarvest) {
     Tarkastus t(i);
     i.w->AvaaRuutu(i.w->pellot());
     t.Ruutu("Pellot");
+    const auto ennen = Tarkastus::Paikat(i.w->pellot());
     for (const Maa maa : {MaaPelto, MaaMetsä, MaaJoutomaa, MaaLaidun}) {
         ValitseMaa(i.peli, maa);
         t.Ruutu("Pellot-" + std::to_string(static_cast<int>(maa)));
     }
+    Tarkastus::EiSiirry("Pellot", ennen, i.w->pellot());
     AvaaMetsuriValikko(i.peli);
     t.Ruutu("Pellot-Metsuri");
     i.w->pellot()->AvaaKylvö();
