@@ -111,16 +111,12 @@ bool Tallenna(QWidget* w, const QDir& kansio, const char* nimi) {
     return ok;
 }
 
-// The window with the Message box open over its middle, as the player sees a question.
+// The window with the Message box open over its middle, as the player sees a question: the box lies
+// on the canvas, so the window's picture has it.
 bool TallennaKysymyksenKanssa(Pääikkuna& w, const QDir& kansio, const char* nimi) {
-    QApplication::processEvents();
-    QPixmap kuva = w.grab();
-    const QPixmap laatikko = w.message()->grab();
-    QPainter p(&kuva);
-    p.drawPixmap((kuva.width() - laatikko.width()) / 2, (kuva.height() - laatikko.height()) / 2, laatikko);
-    p.end();
-    const bool ok = kuva.save(kansio.filePath(nimi));
-    std::printf("%s %s\n", ok ? "wrote" : "FAILED", kansio.filePath(nimi).toStdString().c_str());
+    w.message()->show();
+    const bool ok = Tallenna(&w, kansio, nimi);
+    w.message()->hide();
     return ok;
 }
 
@@ -138,18 +134,7 @@ bool KuvaaSattumat(Näyttämö& n, const QDir& kansio) {
     const std::string uhkaus = "Maksa suojeluraha, niin navettasi ei syty niin herkästi tuleen";
     Kerro(peli, "Kuvat/sattumat/alamaailma.jpg", uhkaus);
     w.message()->Valmistele(uhkaus + "\nMaksatko " + Str(1480.0f) + " ?", 1);
-    w.message()->show();
-    QApplication::processEvents();
-    // The box is a window of its own: it is drawn over the middle of the main window, as it opens.
-    QPixmap kuva = w.grab();
-    {
-        QPainter maalari(&kuva);
-        const QPixmap laatikko = w.message()->grab();
-        maalari.drawPixmap((w.width() - laatikko.width()) / 2, (w.height() - laatikko.height()) / 2, laatikko);
-    }
-    const bool tallennettu = kuva.save(kansio.filePath("31-Suojeluraha.png"));
-    std::printf("%s %s\n", tallennettu ? "wrote" : "FAILED", kansio.filePath("31-Suojeluraha.png").toStdString().c_str());
-    w.message()->hide();
+    const bool tallennettu = TallennaKysymyksenKanssa(w, kansio, "31-Suojeluraha.png");
     w.uutiset()->Command1()->click();
     return ok && tallennettu;
 }
@@ -389,13 +374,9 @@ int KirjoitaKuvakaappaukset(const Kansiot& kansiot, const std::string& polku) {
     w.uutiset()->Command1()->click();
 
     w.message()->Valmistele("Menetät nykyisen tilanteesi. Oletko aivan varma?", 1);
-    w.message()->show();
-    ok &= Tallenna(w.message(), kansio, "09-Message-Kyllä-Ei.png");
-    w.message()->hide();
+    ok &= TallennaKysymyksenKanssa(w, kansio, "09-Message-Kyllä-Ei.png");
     w.message()->Valmistele("Rahasi eivät riitä!\n\nRahatilanteesi on  1500\nEläin maksaa  5000\nSinulta puuttuu  3500", 0);
-    w.message()->show();
-    ok &= Tallenna(w.message(), kansio, "10-Message-Sulje.png");
-    w.message()->hide();
+    ok &= TallennaKysymyksenKanssa(w, kansio, "10-Message-Sulje.png");
 
     w.AvaaRuutu(w.eläimet());
     ok &= Tallenna(w.rahaKyltti(), kansio, "11-RahaKyltti.png");

@@ -3,6 +3,7 @@
 
 // own
 #include "Eläimet.h"
+#include "Kuvat.h"
 #include "Tuotteet.h"
 #include "Työvoima.h"
 #include "Rakennukset.h"
@@ -33,14 +34,22 @@
 #include <QThread>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QKeyEvent>
 
 namespace tanhua::ui {
 
 Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     setWindowTitle("Tanhua");
-    setMinimumSize(800, 600);
-    pino_ = new QStackedWidget(this);
-    setCentralWidget(pino_);
+    // Every screen is laid out on the 800 x 600 canvas; the view scales it to the window. Below scale 1
+    // the smallest texts of the screens would no longer be readable, so the window keeps that size.
+    setMinimumSize(KANKAAN_LEVEYS, KANKAAN_KORKEUS);
+    sisältö_ = new QWidget;
+    sisältö_->setObjectName("Kangas");
+    pino_ = new QStackedWidget(sisältö_);
+    pino_->setGeometry(0, 0, KANKAAN_LEVEYS, KANKAAN_KORKEUS);
+    kangas_ = new Kangas(sisältö_, this);
+    kangas_->MittakaavaMuuttui = [this](double) { MittakaavaMuuttui(); };
+    setCentralWidget(kangas_);
     alku_ = new Alku(peli_, pino_);
     tanhua_ = new Tanhua(peli_, pino_);
     raportti_ = new Raportti(peli_, pino_);
@@ -73,10 +82,11 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
-    message_ = new Message(peli_, this);
+    message_ = new Message(peli_, sisältö_);
     pohja_ = new Pohja(peli_, this);
 
     alku_->Aloitettu = [this] {
+        AsetaNäyttö();
         LataaKursorit();
         pino_->setCurrentWidget(tanhua_);
         PalaaPääruutuun();
@@ -86,6 +96,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         bool avattu = false;
         Toimi([&] { avattu = JatkaTilannetta(peli_); });
         if (avattu) {
+            AsetaNäyttö();
             LataaKursorit();
             pino_->setCurrentWidget(tanhua_);
             PalaaPääruutuun();
@@ -151,18 +162,53 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         PalautaKohdistus(nullptr);
     };
 
-    // 1024 x 768, or the screen's size when it is smaller.
+    // The field around the canvas, and F11 between a window and the whole screen.
+    kangas_->AsetaReunakuva(KuvaJosOn(peli_, "Kuvat/OhraPelto2.jpg"));
+    // F11 is heard wherever the focus is: on a screen of the canvas, in a box or on the logo.
+    qApp->installEventFilter(this);
+
+    // The largest 4:3 window that takes no more than 85 % of the screen, but never below the canvas.
     QSize koko(1024, 768);
-    if (const QScreen* näyttö = QGuiApplication::primaryScreen())
-        koko = koko.boundedTo(näyttö->availableSize());
+    if (const QScreen* näyttö = QGuiApplication::primaryScreen()) {
+        const QSize ala = näyttö->availableSize() * 0.85;
+        koko = QSize(KANKAAN_LEVEYS, KANKAAN_KORKEUS).scaled(ala, Qt::KeepAspectRatio)
+                   .expandedTo(QSize(KANKAAN_LEVEYS, KANKAAN_KORKEUS));
+    }
     resize(koko);
 }
 
+void Pääikkuna::AsetaKokoNäyttö(bool koko) {
+    // The desktop's display mode is never changed: the whole screen is the window without its frame,
+    // and the canvas scales to it.
+    if (koko == isFullScreen()) return;
+    if (koko) showFullScreen();
+    else showNormal();
+}
+
+void Pääikkuna::AsetaNäyttö() {
+    if (peli_.asetukset.Resoluutio800) AsetaKokoNäyttö(true);
+}
+
+void Pääikkuna::MittakaavaMuuttui() {
+    // Pictures are made again at the new resolution, and the pointer grows with the canvas.
+    LataaKursorit();
+    Päivitä();
+}
+
 void Pääikkuna::LataaKursorit() {
-    // The game's own pointer, a pitchfork whose tip is the hot spot, when the setting asks for it.
-    if (!peli_.asetukset.Kursorit) return;
+    // The game's own pointer, a pitchfork whose tip is the hot spot, when the setting asks for it; it
+    // is 32 units of the canvas, so it grows with the scale. The news window, the supplies, the
+    // contracts, the race coupon and the sowing and harvest screens keep the system's pointer.
+    if (!kursoritLadattu_ && !peli_.asetukset.Kursorit) return;
+    kursoritLadattu_ = true;
     const QPixmap talikko = KuvaJosOn(peli_, "Kuvat/talikko.ico");
-    if (!talikko.isNull()) setCursor(QCursor(talikko.scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation), 0, 0));
+    if (talikko.isNull()) return;
+    const QCursor kursori(Sovita(talikko, 32, 32), 0, 0);
+    sisältö_->setCursor(kursori);
+    kangas_->viewport()->setCursor(kursori);
+    if (pohja_) pohja_->setCursor(kursori);
+    for (QWidget* oma : std::initializer_list<QWidget*>{uutiset_, tarvikkeet_, sopimukset_, ravit_, kylvö_, nosto_})
+        oma->setCursor(Qt::ArrowCursor);
 }
 
 void Pääikkuna::NäytäLogo() {
@@ -381,8 +427,20 @@ void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->wid
 void Pääikkuna::resizeEvent(QResizeEvent* tapahtuma) {
     QMainWindow::resizeEvent(tapahtuma);
     AsetteleKyltti();
+    if (pohja_ && pohja_->isVisible()) pohja_->setGeometry(rect());
     if (uutiset_->isVisible())
         uutiset_->move((pino_->width() - uutiset_->width()) / 2, (pino_->height() - uutiset_->height()) / 2);
+}
+
+bool Pääikkuna::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+    if (tapahtuma->type() == QEvent::KeyPress) {
+        const auto* näppäin = static_cast<QKeyEvent*>(tapahtuma);
+        if (näppäin->key() == Qt::Key_F11) {
+            if (!näppäin->isAutoRepeat()) AsetaKokoNäyttö(!isFullScreen());
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(kohde, tapahtuma);
 }
 
 void Pääikkuna::closeEvent(QCloseEvent* tapahtuma) {
