@@ -78,6 +78,8 @@ void Kangas::drawBackground(QPainter* p, const QRectF& alue) {
     const QRect kohde((viewport()->width() - koko.width()) / 2, (viewport()->height() - koko.height()) / 2,
                       koko.width(), koko.height());
     p->drawPixmap(kohde, reunakuva_);
+    // A shade over the margins keeps the eye on the game, which covers its own part of the view.
+    p->fillRect(viewport()->rect(), QColor(20, 14, 6, 90));
     p->restore();
 }
 
