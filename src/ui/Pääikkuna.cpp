@@ -23,6 +23,7 @@
 #include "Sopimukset.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
+#include "core/kursorit.h"
 #include "core/päivä.h"
 #include "core/pääruutu.h"
 #include "core/tähdet.h"
@@ -30,6 +31,7 @@
 #include "core/viestit.h"
 // Qt
 #include <QCloseEvent>
+#include <cmath>
 #include <QCoreApplication>
 #include <QThread>
 #include <QGuiApplication>
@@ -191,24 +193,45 @@ void Pääikkuna::AsetaNäyttö() {
 
 void Pääikkuna::MittakaavaMuuttui() {
     // Pictures are made again at the new resolution, and the pointer grows with the canvas.
-    LataaKursorit();
+    AsetaKursorit();
     Päivitä();
 }
 
 void Pääikkuna::LataaKursorit() {
-    // The game's own pointer, a pitchfork whose tip is the hot spot, when the setting asks for it; it
-    // is 32 units of the canvas, so it grows with the scale. The news window, the supplies, the
-    // contracts, the race coupon and the sowing and harvest screens keep the system's pointer.
-    if (!kursoritLadattu_ && !peli_.asetukset.Kursorit) return;
-    kursoritLadattu_ = true;
+    // The pitchfork goes to the forms the game names, each from the file, so a missing file tells
+    // the player once a form.
+    kursorilliset_.clear();
+    tanhua::LataaKursorit(peli_, [this](std::string_view lomake) {
+        Kuva(peli_, "Kuvat/talikko.ico");
+        if (QWidget* w = KursorinLomake(lomake)) kursorilliset_.push_back(w);
+    });
+    AsetaKursorit();
+}
+
+QWidget* Pääikkuna::KursorinLomake(std::string_view lomake) const {
+    // "ikkuna" is the start screen's panel, which lives on the start screen here.
+    const std::pair<std::string_view, QWidget*> lomakkeet[] = {
+        {"Alku", alku_},         {"ikkuna", alku_},       {"Eläimet", eläimet_},     {"Tanhua", tanhua_},
+        {"Hevostalli", hevostalli_}, {"Käyrät", käyrät_}, {"Message", message_},     {"Pankki", pankki_},
+        {"Pellot", pellot_},     {"Pohja", pohja_},       {"RahaKyltti", kyltti_},   {"Rakennukset", rakennukset_},
+        {"Raportti", raportti_}, {"Tilanne", tilanne_},   {"Topten", topten_},       {"Tuotteet", tuotteet_},
+        {"Työvoima", työvoima_}};
+    for (const auto& [nimi, w] : lomakkeet)
+        if (nimi == lomake) return w;
+    return nullptr;
+}
+
+void Pääikkuna::AsetaKursorit() {
+    // The pointer is 32 units of the canvas, its tip the hot spot: it grows with the scale.
+    if (kursorilliset_.empty()) return;
     const QPixmap talikko = KuvaJosOn(peli_, "Kuvat/talikko.ico");
     if (talikko.isNull()) return;
-    const QCursor kursori(Sovita(talikko, 32, 32), 0, 0);
-    sisältö_->setCursor(kursori);
-    kangas_->viewport()->setCursor(kursori);
-    if (pohja_) pohja_->setCursor(kursori);
-    for (QWidget* oma : std::initializer_list<QWidget*>{uutiset_, tarvikkeet_, sopimukset_, ravit_, kylvö_, nosto_})
-        oma->setCursor(Qt::ArrowCursor);
+    const double suhde = devicePixelRatioF();
+    const int koko = static_cast<int>(std::lround(32 * kangas_->Mittakaava() * suhde));
+    QPixmap kuva = talikko.scaled(koko, koko, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    kuva.setDevicePixelRatio(suhde);
+    const QCursor kursori(kuva, 0, 0);
+    for (QWidget* w : kursorilliset_) w->setCursor(kursori);
 }
 
 void Pääikkuna::NäytäLogo() {

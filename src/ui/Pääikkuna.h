@@ -116,6 +116,8 @@ private:
     // The Tilanne and top-ten screens lead to each other, and the story keeps its screen up.
     QWidget* UranRuutu(QWidget* nyt);
     void LataaKursorit();
+    QWidget* KursorinLomake(std::string_view lomake) const;
+    void AsetaKursorit();
     void MittakaavaMuuttui();
     // A screen folding to its middle line (or opening from it) by the rounds the rules give.
     void Taita(QWidget* lomake, const Taitto& taitto);
@@ -123,7 +125,8 @@ private:
     Peli& peli_;
     QWidget* sisältö_;
     Kangas* kangas_;
-    bool kursoritLadattu_ = false;
+    // The forms that took the game's pointer, given it again at each new scale.
+    std::vector<QWidget*> kursorilliset_;
     QStackedWidget* pino_;
     Alku* alku_;
     Tanhua* tanhua_;

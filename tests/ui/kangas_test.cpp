@@ -9,6 +9,9 @@
 #include "ikkuna.h"
 #include "ui/Kangas.h"
 #include "ui/Tanhua.h"
+#include "ui/Tarvikkeet.h"
+
+#include <cmath>
 
 namespace tanhua::ui {
 namespace {
@@ -20,6 +23,7 @@ TEST(Canvas, ScalesUniformlyToEveryWindowSizeAndTakesClicksWhereItDraws) {
     for (const QSize koko : {QSize(800, 600), QSize(1280, 720), QSize(1920, 1080), QSize(3840, 2160), QSize(1000, 1000)}) {
         SCOPED_TRACE(QString("%1 x %2").arg(koko.width()).arg(koko.height()).toStdString());
         Ikkuna i;
+        i.peli.asetukset.Kursorit = true;
         i.Aloita();
         i.w->resize(koko);
         QApplication::processEvents();
@@ -48,6 +52,11 @@ TEST(Canvas, ScalesUniformlyToEveryWindowSizeAndTakesClicksWhereItDraws) {
         ASSERT_FALSE(logo->pixmap().isNull());
         EXPECT_DOUBLE_EQ(logo->pixmap().devicePixelRatio(), odotettu * suhde);
         EXPECT_EQ(logo->pixmap().deviceIndependentSize().toSize(), QSize(48, 48));
+        // The pitchfork is 32 units of the canvas on the forms that take it; the supplies keep the arrow.
+        const int kursori = static_cast<int>(std::lround(32 * odotettu * suhde));
+        EXPECT_EQ(i.w->tanhua()->cursor().shape(), Qt::BitmapCursor);
+        EXPECT_EQ(i.w->tanhua()->cursor().pixmap().size(), QSize(kursori, kursori));
+        EXPECT_EQ(i.w->tarvikkeet()->cursor().shape(), Qt::ArrowCursor);
     }
 }
 
