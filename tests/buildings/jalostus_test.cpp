@@ -128,28 +128,6 @@ TEST(Chains, TheBakeryMakesBreadThenPastryFromOneN) {
     }
 }
 
-TEST(Chains, EachJobPaysItsOwnOvertimeAndWeekendDivisors) {
-    // A weekend with overtime and k = 1: Int(5500 / D1) + Int(5500 / D2).
-    struct Tapaus { Rakennus rakennus; Työläinen työ; Single palkat; };
-    const Tapaus tapaukset[] = {
-        {Saha, Kirvesmies, 110 + 366},         {Meijeri, Meijerityöntekijä, 100 + 275},
-        {Mylly, Mylläri, 110 + 366},           {Ompelimo, Ompelija, 110 + 366},
-        {Leipomo, Leipuri, 110 + 366},         {Teurastamo, Teurastaja, 110 + 366},
-        {Viinitehdas, Viinimestari, 110 + 366}, {Mehiläistarha, Mehiläishoitaja, 110 + 366},
-        {Kasvihuone, Puutarhuri, 110 + 275},   {Marjatarha, Puutarhuri, 110 + 366},
-    };
-    for (const Tapaus& c : tapaukset) {
-        Tila t;
-        t.m.Rak[c.rakennus] = 1;
-        t.Palkkaa(c.työ, 1, true);
-        t.m.Viikonloppu = true;
-        t.Arvot({0.9, 0.0});
-        Jalostus(t.peli, c.rakennus);
-        EXPECT_EQ(t.Jäljellä(), 0u) << RAKENNUSTAULU[c.rakennus].avain;
-        EXPECT_EQ(t.m.YlityöPalkat, c.palkat) << RAKENNUSTAULU[c.rakennus].avain;
-    }
-}
-
 TEST(Chains, PollinationNeedsWorkingBeeKeepersAndEachGardenRoundDrawsItsOwnBonus) {
     // With S = 6 the berry round raises S by the bee yard's level to 7: Int(2 S + 7 x 0) = 14. A
     // working bee-keeper pollinates first, S 8, berries 16. The bee-keeper takes k with overtime

@@ -126,25 +126,6 @@ TEST(Ordering, AnOrderPaysDeductsATenthAndShowsItsDays) {
     }
 }
 
-TEST(Ordering, StoreOrdersStackAtHalfTheDaysAndDeliverTogether) {
-    Tila t;
-    t.m.Koko_Varasto = 200;
-    AvaaRakennukset(t.peli);
-    t.Valitse(VARASTO);
-    TilaaKohde(t.peli);
-    EXPECT_EQ(t.r().Kesto, 15);  // worked out again for the running order
-    TilaaKohde(t.peli);
-    EXPECT_EQ(t.m.RakAika[VARASTO], 45);
-    EXPECT_EQ(t.m.RakTilaus[VARASTO], 100);
-    for (int päivä = 0; päivä < 45; ++päivä) {
-        EXPECT_EQ(t.m.Koko_Varasto, 200);
-        t.peli.arvonta.Jonoon(0);
-        TyömaaPäivä(t.peli);
-    }
-    EXPECT_EQ(t.m.Koko_Varasto, 300);
-    EXPECT_EQ(t.r().varastoz, "200");  // the size shown waits for the screen to open again
-}
-
 TEST(Ordering, RefusalsComeInTheirOrderAndChangeNothing) {
     const std::string lukittu = "VIESTI|0|Et voi rakentaa lukittua rakennusta!\\n";
     const std::string lukittuLoppu = "tämän takia kohde on lukittu.Laajentamalla tilaasi saavutat tarvittavat "

@@ -79,19 +79,5 @@ TEST(WorkOrders, OneDrawServesEveryOrderAndCompletionsAreListedStoresFirst) {
     EXPECT_TRUE(t.peli.näkymä.ListaNäkyvissä);
 }
 
-TEST(WorkOrders, EveryBuildingHasItsCompletionLine) {
-    Tila t;
-    for (std::size_t i = 0; i < RAKENNUKSIA; ++i) t.m.RakAika[i] = t.m.RakTilaus[i] = 1;
-    t.peli.arvonta.Jonoon(0);
-    TyömaaPäivä(t.peli);
-    Tapahtumat odotus;
-    for (const char* sana : {"saha", "kasvihuone", "meijeri", "mylly", "ompelimo", "leipomo", "teurastamo",
-                             "rehuntuotantolaitos", "hevostalli", "marjatarha", "viinitehdas", "mehiläistarha",
-                             "pakkaamo"})
-        odotus.push_back(std::string("LISTA|Rakennuksesi ") + sana + " on nyt valmis!");
-    EXPECT_EQ(t.Tapahtumat(), odotus);
-    for (std::size_t i = 0; i < RAKENNUKSIA; ++i) EXPECT_EQ(t.m.Rak[i], 1);
-}
-
 }  // namespace
 }  // namespace tanhua
