@@ -109,22 +109,6 @@ TEST_F(Music, OneSongOrNoneIsPickedWithoutADraw) {
     EXPECT_EQ(p.Tapahtumat(), (std::vector<std::string>{"MIDI|soita|yksi.mid"}));
 }
 
-TEST_F(Music, ThePanelsButtonsSoundAndThePlayerStopsWhereItIs) {
-    Kappaleet({"a.mid", "b.mid"});
-    p.peli.asetukset.Äänitehosteet = true;
-    p.peli.soitin.ListIndex = 1;
-    SoitinStop(p.peli);
-    SoitinSeuraava(p.peli);
-    EXPECT_EQ(p.Tapahtumat(), (std::vector<std::string>{"ÄÄNI|siirto", "MIDI|pysäytä", "ÄÄNI|siirto", "MIDI|soita|a.mid"}));
-    // With the effects off the buttons are silent and take no draw of their own.
-    p.peli.asetukset.Äänitehosteet = false;
-    p.peli.arvonta.Jonoon(0.7);
-    SoitinArvo(p.peli);
-    EXPECT_EQ(p.peli.soitin.ListIndex, 1);
-    EXPECT_EQ(p.peli.arvonta.JonossaJäljellä(), 0u);
-    EXPECT_EQ(p.Tapahtumat(), (std::vector<std::string>{"MIDI|soita|b.mid"}));
-}
-
 TEST_F(Music, ThePanelSlidesOnlyWithAnimations) {
     p.peli.asetukset.Animaatiot = true;
     const std::vector<int> ulos = AvaaSoitin(p.peli, 600);

@@ -164,10 +164,10 @@ TEST(MonthEnd, WagesLoanAndPlantingLinesAndCash) {
 }
 
 TEST(MonthEnd, InsuranceBillAndClosingTheReport) {
-    // The bill uses the premiums of the last refresh (fire 33, animals 20), which comes after it.
+    // The bill uses the premiums of the last refresh, here the new farm's own (fire 33, animals 20),
+    // and the refresh comes after it.
     Tila t;  // 6 barn places, 100 silo, 100 store
     t.peli.asetukset.Äänitehosteet = true;
-    PäivitäVakuutus(t.peli);
     t.m.Pankki.Vakuutus[VakuutusPalo] = 1;
     t.m.Pankki.Vakuutus[VakuutusEläin] = 1;
     t.m.El[Nauta][Naaras] = 10;  // not in the bill until the premiums are refreshed

@@ -117,16 +117,6 @@ TEST(Bank, DepositLimitsAndCents) {
     EXPECT_EQ(t.m.Tili, 0);
 }
 
-TEST(Bank, ANewFarmHasItsPremiumsWorkedOut) {
-    Testipeli t;
-    t.Aloita();
-    const auto& maksu = t.m.Pankki.Vakumaksu;
-    EXPECT_EQ(maksu[VakuutusEläin], "20");
-    EXPECT_EQ(maksu[VakuutusTyö], "100");
-    EXPECT_EQ(maksu[VakuutusTarvike], "0");
-    EXPECT_NE(maksu[VakuutusPalo], "");
-}
-
 TEST(Bank, OpeningShowsNoSheetAndEscLeavesAFreshOne) {
     Pankissa t;
     t.Laina("3000");

@@ -25,18 +25,8 @@ struct Tila : testi::Testipeli {
 };
 
 TEST(Forester, PassesTakeTheirDrawsInTheRuleOrder) {
-    struct Tapaus {
-        const char* nimi;
-        bool viikonloppu, ylityö, kone;
-        int työ, moti;
-        float metsä;
-        int jäljellä;
-        std::vector<double> r;
-        // expected
-        float puu;
-        int jäljelläNyt, hakattu;
-        float ylityöpalkat, metsäNyt, joutomaa;
-        Rivit lista;
+    struct Tapaus { const char* nimi; bool viikonloppu, ylityö, kone; int työ, moti; float metsä; int jäljellä;
+        std::vector<double> r; float puu; int jäljelläNyt, hakattu; float ylityöpalkat, metsäNyt, joutomaa; Rivit lista;
     };
     const std::vector<Tapaus> tapaukset{
         {"plain weekday pass", false, false, false, 1, 0, 5, 100, {0.6}, 4, 99, 1, 0, 5, 0, {}},
@@ -80,14 +70,7 @@ TEST(Forester, PassesTakeTheirDrawsInTheRuleOrder) {
 }
 
 TEST(Forester, ReplantingTestsTheMoneyBeforeTheLand) {
-    struct Tapaus {
-        int metsitä;
-        float raha, joutomaa;
-        int työ;
-        float rahaNyt, joutomaaNyt;
-        Long kulut;
-        Rivit lista;
-    };
+    struct Tapaus { int metsitä; float raha, joutomaa; int työ; float rahaNyt, joutomaaNyt; Long kulut; Rivit lista; };
     for (const Tapaus& c : {
              Tapaus{1, 10000, 5, 2, 7000, 2, 3000, {}},  // two foresters plant three hectares
              Tapaus{1, 1000, 5, 2, 0, 4, 1000, {"Metsän istuttamiseen ei ole varaa."}},
@@ -109,18 +92,8 @@ TEST(Forester, ReplantingTestsTheMoneyBeforeTheLand) {
 }
 
 TEST(Grain, SeasonManureAndPassesMakeTheDaysGrain) {
-    struct Tapaus {
-        const char* nimi;
-        const char* vuodenaika;
-        int lämpötila;
-        bool kastelu;
-        float sade, aurinko;
-        float pelto, lanta;
-        bool lantaPeltoon;
-        std::vector<double> r;
-        float vilja, lantaNyt;
-        Long tuotettu;
-    };
+    struct Tapaus { const char* nimi; const char* vuodenaika; int lämpötila; bool kastelu; float sade, aurinko;
+        float pelto, lanta; bool lantaPeltoon; std::vector<double> r; float vilja, lantaNyt; Long tuotettu; };
     const std::vector<Tapaus> tapaukset{
         // Each pass adds Int(D / 10 + S) × r / 10; 0.25 a pass adds up exactly.
         {"ties round to even", "Kesä", -32, false, 0, 0, 9, 0, false, std::vector<double>(10, 0.5), 2, 0, 2},

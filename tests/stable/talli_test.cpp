@@ -57,14 +57,8 @@ TEST(StableDemand, SeasonSkyPriceAndCrowding) {
 }
 
 TEST(StableDay, HoursRoundToEvenAreHeldAndCountWhileTheMaresLast) {
-    struct Tapaus {
-        const char* mikä;
-        Long tammoja, mestareita;
-        bool ylityö;
-        Integer moti;
-        std::vector<double> arvonnat;
-        Long T;
-    };
+    struct Tapaus { const char* mikä; Long tammoja, mestareita; bool ylityö; Integer moti; std::vector<double> arvonnat;
+        Long T; };
     // With demand 0 and motivation 0, h = round(4r): r .625 gives 2.5, .875 gives 3.5.
     const Tapaus tapaukset[] = {
         {"2.5 goes to 2; one mare, one master: one block", 1, 1, false, 0, {.625, .99}, 2},

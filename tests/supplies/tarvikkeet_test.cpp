@@ -66,20 +66,6 @@ TEST(Lists, EachButtonShowsItsListTitleTextAndAction) {
     EXPECT_EQ(t.r().info, "Listassa on kaikki ostamasi lisälaitteet.");
 }
 
-TEST(Choosing, ShowsTheTextAndThePriceOrTheSalePriceRoundedDown) {
-    Kauppa t;
-    t.Klik(NäytäLisälaitteet);
-    ValitseTarvike(t.peli, Kirnu);
-    EXPECT_EQ(t.r().nimi, "Kirnu");
-    EXPECT_EQ(t.r().info, "Kirnu tuottaa maitotuotteita monipuolisemmin ja parantaa siten kaikkien maitotuotteiden "
-                          "hintaa. Suuri sähkönkulutus ja pieni vedenkulutus.");
-    EXPECT_EQ(t.r().hinta, "15000");
-    t.Osta(Kirnu);
-    t.Klik(NäytäOmat);
-    ValitseTarvike(t.peli, Kirnu);
-    EXPECT_EQ(t.r().hinta, "11250");
-}
-
 TEST(Buying, ExactlyEnoughMoneyBuysAndLessIsRefusedWithTheShortfallUnnarrowed) {
     struct Tapaus { Single raha; const char* viesti; };
     const Tapaus tapaukset[] = {
