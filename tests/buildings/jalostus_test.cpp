@@ -284,14 +284,6 @@ TEST(Chains, TheDayOrderTakesItsDrawsFeedSawYardsThenTheHouseChains) {
     EXPECT_EQ(talvi.m.Var[Hunaja] + talvi.m.Var[Vihannes], 0);
     EXPECT_EQ(talvi.m.Var[Viini], 5);
 
-    // Over the store's size only the feed plant draws, and stops at its own load test.
-    Tila täysi;
-    Maatila(täysi);
-    täysi.m.Koko_Varasto = 10;
-    täysi.Arvot({0.9});
-    Jalostus(täysi.peli);
-    EXPECT_EQ(täysi.Jäljellä(), 0u);
-    EXPECT_EQ(täysi.m.Var[Rehu] + täysi.m.Var[Lauta] + täysi.m.Var[Juusto], 0);
 }
 
 }  // namespace

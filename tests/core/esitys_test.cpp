@@ -10,14 +10,8 @@
 namespace tanhua {
 namespace {
 
-struct TaittoTapaus {
-    bool pienennys;
-    Lomake lomake;
-    int H, s;
-    bool säästö;
-    std::vector<TaitonKierros> kierrokset;
-    int nukkuMs, tapahtumia;
-};
+struct TaittoTapaus { bool pienennys; Lomake lomake; int H, s; bool säästö; std::vector<TaitonKierros> kierrokset;
+    int nukkuMs, tapahtumia; };
 
 TEST(Fold, RoundsAndPausesFollowTheSpeedAndTheForm) {
     const TaittoTapaus tapaukset[] = {

@@ -130,10 +130,8 @@ TEST(Disease, HygieneGateTheAdultCounterAndAWholeClaim) {
 }
 
 TEST(Accident, VictimRowsWinterAndTheCost) {
-    struct Tapaus {
-        std::string vuodenaika; bool vakuutettu; std::vector<Työläinen> työt; int lisäpalkka;
-        std::initializer_list<double> arvot; std::optional<SattumanTulos> tulos; float raha;
-    };
+    struct Tapaus { std::string vuodenaika; bool vakuutettu; std::vector<Työläinen> työt; int lisäpalkka;
+        std::initializer_list<double> arvot; std::optional<SattumanTulos> tulos; float raha; };
     const std::string MAKSU = "Työtapaturma, jouduit korvaamaan  1100";
     for (const Tapaus& c : {
              Tapaus{"Kesä", false, {}, 0, {A(0, 9), 0.5, A(4, 15)}, std::nullopt, 10000},

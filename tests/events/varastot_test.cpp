@@ -26,10 +26,8 @@ TEST(Spoilage, HygieneTensGateAndAnEmptyStockTellsNothing) {
 }
 
 TEST(Gifts, TheSumOfDepositAndCashGatesAndAnimalsNeedRoom) {
-    struct Tapaus {
-        int numero; float tili; float raha; float navetta; std::initializer_list<double> arvot;
-        std::optional<SattumanTulos> tulos; Long kanoja; Single lihaa;
-    };
+    struct Tapaus { int numero; float tili; float raha; float navetta; std::initializer_list<double> arvot;
+        std::optional<SattumanTulos> tulos; Long kanoja; Single lihaa; };
     const std::string KANAT = "Tuttavasi antoi sinulle kanoja.";
     const std::string LIHA = "Mummosi oli käynyt hirvimetsällä ja antoi sinulle lihaa";
     for (const Tapaus& c : {
@@ -89,8 +87,7 @@ TEST(Theft, GateNeedsCashAboveEightThousandThenTheWatchDraw) {
 }
 
 TEST(Fire, AlarmPlaceSizeGateCapsAndTheFeedRule) {
-    struct Tapaus {
-        bool hälytin; float navetta, siilo, varasto, rehu, maito; std::initializer_list<double> arvot;
+    struct Tapaus { bool hälytin; float navetta, siilo, varasto, rehu, maito; std::initializer_list<double> arvot;
         std::optional<SattumanTulos> tulos; float navettaJälkeen, siiloJälkeen, varastoJälkeen, rehuJälkeen, maitoJälkeen;
     };
     const std::string NAVETTA = "Navetassasi oli ollut tulipalo, jonka palomiehet kuitenkin saivat sammutettua.";

@@ -30,20 +30,14 @@ TEST(Seal, ChecksumsAndTheirTextAgainstKnownValues) {
     crc.Algorithm(clsCRC::CRC16);
     EXPECT_EQ(crc.CalculateString("123456789"), 0x31C3);
 
-    struct Tapaus {
-        std::int32_t arvo;
-        const char* heksa;
-    };
+    struct Tapaus { std::int32_t arvo; const char* heksa; };
     for (const Tapaus& c : {Tapaus{0, "0"}, {0x0ABCDEF1, "ABCDEF1"}, {0xF, "F"}, {-1, "FFFFFFFF"},
                             {INT_MIN, "80000000"}, {-0x0FFFFFFF, "F0000001"}})
         EXPECT_EQ(HeksaTeksti(c.arvo), c.heksa) << c.arvo;
 }
 
 TEST(Seal, EachCharacterMeetsTheNextKeyCharacter) {
-    struct Tapaus {
-        const char* teksti;
-        std::string sinetti;
-    };
+    struct Tapaus { const char* teksti; std::string sinetti; };
     using namespace std::string_literals;
     for (const Tapaus& c : {
              // the first character meets 'Q', the key's first 'K' comes up at the sixth
@@ -321,6 +315,10 @@ TEST(SaveFile, ALineThatDoesNotReadIsReportedAndGoingOnReadsTheNext) {
                                          c.vastaus)
                 << c.mikä;
         }
+        // A short save of the program's own version is told as a file of the wrong size.
+        EXPECT_EQ(t.kanavat.viimeisinVikateksti.find("Tiedosto jota avattiin on väärän kokoinen") != std::string::npos,
+                  c.numero == 62)
+            << c.mikä;
         EXPECT_EQ(t.m.Raha, c.raha) << c.mikä;
         EXPECT_EQ(t.m.Laina, c.laina) << c.mikä;
         EXPECT_FALSE(t.peli.Ladataan) << c.mikä;
@@ -335,7 +333,9 @@ TEST(SaveFile, ALineThatDoesNotReadIsReportedAndGoingOnReadsTheNext) {
     t.KirjoitaData("Vanha.fxf", TiedostonSinetti(t.peli.kansiot.data / "Vanha.sav") + "\r\n");
     t.kanavat.vastaukset = {"Ei"};
     AvaaTilanne(t.peli, "Vanha");
-    EXPECT_NE(t.kanavat.viimeisinVikateksti.find("tilanteen versio on  1.4. Joudut"), std::string::npos)
+    EXPECT_NE(t.kanavat.viimeisinVikateksti.find("Tämän tanhuan versio on  1.5 ja ladattavan tilanteen data:n mukaan "
+                                                  "tilanteen versio on  1.4. Joudut"),
+              std::string::npos)
         << t.kanavat.viimeisinVikateksti;
     EXPECT_EQ(t.m.Versio, 1.5f);
 }

@@ -83,18 +83,5 @@ TEST(Firing, OneInThreeSuesIfThereIsCashAndTheClaimMayTakeItBelowZero) {
     }
 }
 
-TEST(Firing, TheCountShownGuardsTheFiringAndNoDrawIsMadeAtZero) {
-    Tila t;
-    t.m.Työ[Mylläri] = 1;  // at a mill of level 0: the cap only binds hiring
-    t.Valitse(Mylläri);
-    t.peli.arvonta.Jonoon(0.9);
-    Erota(t.peli);
-    EXPECT_EQ(t.m.Työ[Mylläri], 0);
-    t.peli.arvonta.Jonoon(0.0);
-    Erota(t.peli);
-    EXPECT_EQ(t.m.Työ[Mylläri], 0);
-    EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);
-}
-
 }  // namespace
 }  // namespace tanhua
