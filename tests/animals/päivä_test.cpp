@@ -241,23 +241,6 @@ TEST(Starvation, TheTestRoundsToEvenAgainstHygieneAndDifficulty) {
     }
 }
 
-TEST(Starvation, EachKindLosesOneHeadWithItsLine) {
-    Lauma t;
-    for (auto& laji : t.m.El) laji[Naaras] = laji[Uros] = 2;
-    t.m.Hygienia = t.m.Vaikeustaso = 0;
-    t.m.Raha = 0;
-    t.Jonoon(std::vector<double>(12, 0.0));
-    Nälkäkuolemat(t.peli);
-    for (const auto& laji : t.m.El) EXPECT_EQ(laji[Naaras] + laji[Uros], 2);
-    EXPECT_EQ(t.Tapahtumat(), (std::vector<std::string>{
-                                  "LISTA|Kanojasi kuoli nälkään!", "LISTA|Kukkojasi kuoli nälkään!",
-                                  "LISTA|Lampaitasi kuoli nälkään!", "LISTA|Pässejäsi kuoli nälkään!",
-                                  "LISTA|Emakoitasi kuoli nälkään!", "LISTA|Karjujasi kuoli nälkään!",
-                                  "LISTA|Kettujasi kuoli nälkään!", "LISTA|Kettujasi kuoli nälkään!",
-                                  "LISTA|Lehmiäsi kuoli nälkään!", "LISTA|Sonnejasi kuoli nälkään!",
-                                  "LISTA|Hevosiasi kuoli nälkään!", "LISTA|Orejasi kuoli nälkään!"}));
-}
-
 TEST(Starvation, TheWelfareFine) {
     // A hen dies at the first draw; then the fine's two draws: four days in five, and its size.
     struct Tapaus { Long kanoja; float raha; std::vector<double> arvot; float rahaJälkeen; std::size_t jäljellä; const char* sakko; };

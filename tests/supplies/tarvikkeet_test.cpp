@@ -100,30 +100,6 @@ TEST(Buying, ExactlyEnoughMoneyBuysAndLessIsRefusedWithTheShortfallUnnarrowed) {
     }
 }
 
-TEST(Selling, PaysThreeQuartersAndPutsTheItemAtTheEndOfItsShopList) {
-    Kauppa t;
-    t.m.Raha = 30000;
-    t.Klik(NäytäLisälaitteet);
-    t.Osta(Lypsykone);
-    t.Osta(UVValot);
-    t.Klik(NäytäYleiset);
-    t.Osta(Kaivo);
-    t.Klik(NäytäOmat);
-    // Owned items stand in order of purchase.
-    EXPECT_EQ(t.r().Lista, (Rivit{Lypsykone, UVValot, Kaivo}));
-    EXPECT_EQ(OmistetutTarvikkeet(t.m), 3);
-    t.Osta(Lypsykone);  // the button reads "Myy"
-    EXPECT_EQ(t.m.Raha, 17500);
-    EXPECT_FALSE(t.m.Tarv[Lypsykone]);
-    EXPECT_EQ(t.r().Lista, (Rivit{UVValot, Kaivo}));
-    EXPECT_EQ(t.r().kauppa[Lisälaitteet].back(), Lypsykone);
-    // Bought again at the full price.
-    t.Klik(NäytäLisälaitteet);
-    t.Osta(Lypsykone);
-    EXPECT_EQ(t.m.Raha, 7500);
-    EXPECT_EQ(t.r().Tavarat, (Rivit{UVValot, Kaivo, Lypsykone}));
-}
-
 TEST(Opening, ItemsThatChangedMeanwhileMoveAndTheOthersKeepTheirOrder) {
     // The lists come in step with the flags on opening, and on a list button pressed without it.
     for (const bool avataan : {true, false}) {

@@ -1,10 +1,13 @@
-// A hundred years of random play on the chains and the land: buildings raised, sliders moved, devices
-// bought and sold, staff hired, fired and put on overtime, land bought and sold, foresters hired and
-// fired, replanting switched. Nothing fails, no stock, count or land goes below 0, the hectare being
-// felled stays within its percentage, and the bills stay at 0 or above and start again at each month end.
+// A hundred years of random play on the whole farm: buildings raised, sliders moved, devices bought and
+// sold, staff hired, fired and put on overtime, land bought and sold, foresters hired and fired,
+// replanting switched, insurance taken and dropped, and random answers to every box the events open.
+// Nothing fails, no stock, head count, staff or land goes below 0, the hectare being felled stays within
+// its percentage, the bills stay at 0 or above and start again at each month end, and the events show
+// a plausible mix of pictures.
 #include <gtest/gtest.h>
 
 #include <random>
+#include <set>
 
 #include "buildings/rakennukset.h"
 #include "core/kuukausi.h"
@@ -51,11 +54,12 @@ void Siirto(Peli& peli, std::mt19937& g) {
             else YlityöPois(peli);
             break;
         case 13: AsetaMetsitä(peli, luku(0, 1) == 0); break;
+        case 14: m.Pankki.Vakuutus[luku(0, VAKUUTUKSIA - 1)] = luku(0, 1); break;
         default: break;  // a day with no move
     }
 }
 
-TEST(Soak, YearsOfRandomPlayKeepStocksCountsLandAndBillsSound) {
+TEST(Soak, AHundredYearsOfRandomPlayOnTheWholeFarmKeepEverythingSound) {
     testi::Testipeli t;
     t.Aloita("Metsä", 1, 0, false);
     Muuttujat& m = t.m;
@@ -66,9 +70,15 @@ TEST(Soak, YearsOfRandomPlayKeepStocksCountsLandAndBillsSound) {
     Aseta(m.Koko_Navetta, 100);
     Aseta(m.El[Nauta][Naaras], 20);
     m.LantaPeltoon = true;
+    Aseta(m.El[Kana][Naaras], 60);
+    Aseta(m.Laidun, 2);
     AvaaTyövoima(t.peli);
+    // The pictures the events showed: a plausible mix, not one family over and over.
+    const std::string SATTUMA = "IKKUNA|Kuvat/sattumat/";
+    std::set<std::string> kuvat;
     for (int päivä = 0; päivä < VUOSIA * 360; ++päivä) {
         Siirto(t.peli, g);
+        for (int i = 0; i < 4; ++i) t.kanavat.vastaukset.push_back(g() % 2 ? "Kyllä" : "Ei");
         // Money and feed stay plentiful, so the soak plays the chains and the land rather than bankruptcy.
         Aseta(m.Raha, 1e6);
         Aseta(m.Var[Rehu], 5000);
@@ -77,8 +87,16 @@ TEST(Soak, YearsOfRandomPlayKeepStocksCountsLandAndBillsSound) {
         if (t.peli.näkymä.RaporttiAuki) SuljeRaportti(t.peli);
         // Logs and grain are sold off now and then, as a player would, to keep the store in reach.
         if (m.Päivä == 1) m.Var[Puu] = m.Var[Vilja] = 0;
-        for (const std::string& tapahtuma : t.kanavat.tapahtumat) ASSERT_NE(tapahtuma.rfind("VIKA|", 0), 0u) << tapahtuma;
+        for (const std::string& e : t.kanavat.tapahtumat) {
+            if (e.rfind(SATTUMA, 0) == 0) kuvat.insert(e.substr(0, e.find('|', SATTUMA.size())));
+            ASSERT_NE(e.rfind("VIKA|", 0), 0u) << e;
+            ASSERT_NE(e.rfind("LAATIKKO|", 0), 0u) << e;
+        }
         t.kanavat.tapahtumat.clear();
+        t.kanavat.vastaukset.clear();
+        for (const auto& laji : m.El)
+            for (Long luku : laji) ASSERT_GE(luku, 0) << "day " << päivä;
+        for (Long työntekijöitä : m.Työ) ASSERT_GE(työntekijöitä, 0) << "day " << päivä;
         for (std::size_t k = 0; k < TUOTTEITA; ++k) ASSERT_GE(m.Var[k], 0) << TUOTETAULU[k].avain << " day " << päivä;
         for (const Single ala : {m.Metsä, m.Pelto, m.Joutomaa, m.Laidun}) ASSERT_GE(ala, 0) << "day " << päivä;
         ASSERT_GE(m.Sähkölasku, 0);
@@ -107,6 +125,9 @@ TEST(Soak, YearsOfRandomPlayKeepStocksCountsLandAndBillsSound) {
     EXPECT_EQ(m.Vuosi, 1980 + VUOSIA) << "every day was played";
     EXPECT_GT(m.RehuaTuotettu + m.Var[Juusto] + m.Var[Viini] + m.Var[Lauta], 0) << "the chains worked";
     EXPECT_GT(m.Työ[Metsuri] + m.Metsä + m.Pelto, 0) << "the land was played";
+    std::string nähdyt;
+    for (const std::string& k : kuvat) nähdyt += k.substr(SATTUMA.size()) + " ";
+    EXPECT_GE(kuvat.size(), 12u) << nähdyt;
 }
 
 }  // namespace
