@@ -1,15 +1,17 @@
 // A hundred years of random play on the whole farm: buildings raised, sliders moved, devices bought and
 // sold, staff hired, fired and put on overtime, land bought and sold, foresters hired and fired,
-// replanting switched, insurance taken and dropped, and random answers to every box the events open.
-// Nothing fails, no stock, head count, staff or land goes below 0, the hectare being felled stays within
-// its percentage, the bills stay at 0 or above and start again at each month end, and the events show
-// a plausible mix of pictures.
+// replanting switched, insurance taken and dropped, the contracts screen pressed at random, and random
+// answers to every box. Nothing fails, no stock, head count, staff or land goes below 0, the hectare
+// being felled stays within its percentage, the bills stay at 0 or above and start again at each month
+// end, an open call always has its entry and a contract slot is whole or free, and the events show a
+// plausible mix of pictures.
 #include <gtest/gtest.h>
 
 #include <random>
 #include <set>
 
 #include "buildings/rakennukset.h"
+#include "contracts/sopimukset.h"
 #include "core/kuukausi.h"
 #include "core/päivä.h"
 #include "land/pellot.h"
@@ -59,6 +61,45 @@ void Siirto(Peli& peli, std::mt19937& g) {
     }
 }
 
+// A press on the contracts screen, any that a player could try, in or out of a call.
+void Sopimussiirto(Peli& peli, std::mt19937& g) {
+    auto luku = [&](int n) { return static_cast<int>(g() % static_cast<unsigned>(n)); };
+    const int tuotteita = static_cast<int>(peli.näkymä.Sopimuksia.size());
+    switch (luku(14)) {
+        case 0: Sopimustarjous(peli); break;
+        case 1: peli.näkymä.Sopimuksia.push_back(std::string(TARJOUKSET[luku(18)].teksti)); break;
+        case 2: case 3: ValitseTarjous(peli, luku(tuotteita + 2) - 1); break;
+        case 4: HyväksyTarjous(peli); break;
+        case 5: HylkääTarjous(peli); break;
+        case 6: UudetSopimukset(peli); break;
+        case 7: NäytäSopimukset(peli); break;
+        case 8: SuljeTarjoukset(peli); break;
+        case 9: SuljeSopimuslappu(peli); break;
+        case 10: ValitsePeruttava(peli, luku(3)); break;
+        case 11: PeruSopimus(peli); break;
+        case 12: SuljeSopimukset(peli); break;
+        default: TarjousSiivous(peli); break;
+    }
+}
+
+void TarkistaSopimukset(const Peli& peli, int päivä) {
+    const SopimusRuutuTila& r = peli.sopimusruutu;
+    const auto& lista = peli.näkymä.Sopimuksia;
+    if (r.Puhelussa) {
+        ASSERT_TRUE(r.indeksi >= 0 && r.indeksi < static_cast<int>(lista.size())) << päivä;
+        ASSERT_EQ(lista[static_cast<std::size_t>(r.indeksi)], r.tuote) << päivä;
+    } else {
+        ASSERT_EQ(r.indeksi, -1) << päivä;
+    }
+    for (const Sopimus& s : peli.m.Sop) {
+        if (s.Tuote.empty())
+            ASSERT_TRUE(s.Määrä == 0 && s.Hinta == 0 && s.Sakko == 0 && s.Kesto == 0) << päivä;
+        else
+            ASSERT_TRUE(s.Määrä >= 1 && s.Hinta >= 1 && s.Sakko >= 40 && s.Kesto >= 0 && s.Kesto <= 17) << päivä;
+    }
+    ASSERT_TRUE(peli.m.SopimuksiaLäpi >= 0 && peli.m.SopimuksiaEpä >= 0) << päivä;
+}
+
 TEST(Soak, AHundredYearsOfRandomPlayOnTheWholeFarmKeepEverythingSound) {
     testi::Testipeli t;
     t.Aloita("Metsä", 1, 0, false);
@@ -77,8 +118,13 @@ TEST(Soak, AHundredYearsOfRandomPlayOnTheWholeFarmKeepEverythingSound) {
     const std::string SATTUMA = "IKKUNA|Kuvat/sattumat/";
     std::set<std::string> kuvat;
     for (int päivä = 0; päivä < VUOSIA * 360; ++päivä) {
-        Siirto(t.peli, g);
         for (int i = 0; i < 4; ++i) t.kanavat.vastaukset.push_back(g() % 2 ? "Kyllä" : "Ei");
+        Siirto(t.peli, g);
+        for (int i = 0; i < 3; ++i) {
+            Sopimussiirto(t.peli, g);
+            TarkistaSopimukset(t.peli, päivä);
+            if (HasFatalFailure()) return;
+        }
         // Money and feed stay plentiful, so the soak plays the chains and the land rather than bankruptcy.
         Aseta(m.Raha, 1e6);
         Aseta(m.Var[Rehu], 5000);
@@ -125,6 +171,7 @@ TEST(Soak, AHundredYearsOfRandomPlayOnTheWholeFarmKeepEverythingSound) {
     EXPECT_EQ(m.Vuosi, 1980 + VUOSIA) << "every day was played";
     EXPECT_GT(m.RehuaTuotettu + m.Var[Juusto] + m.Var[Viini] + m.Var[Lauta], 0) << "the chains worked";
     EXPECT_GT(m.Työ[Metsuri] + m.Metsä + m.Pelto, 0) << "the land was played";
+    EXPECT_GT(m.SopimuksiaLäpi + m.SopimuksiaEpä, 0) << "contracts were made and ended";
     std::string nähdyt;
     for (const std::string& k : kuvat) nähdyt += k.substr(SATTUMA.size()) + " ";
     EXPECT_GE(kuvat.size(), 12u) << nähdyt;

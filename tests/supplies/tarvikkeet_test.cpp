@@ -1,4 +1,4 @@
-// The supplies shop: the lists and their texts, choosing, buying, selling and the owned list.
+// The supplies shop: the lists and their texts, buying, and the lists kept in step with the flags.
 #include <gtest/gtest.h>
 
 #include "buildings/tarvikkeet.h"
