@@ -89,11 +89,9 @@ TEST(Output, EachKindDrawsInItsOrderWithItsPasses) {
         0.8, 0.39, 0.5,  // pig manure, sows + boars + 1 passes: Int(2.0) = 2, Int(0.975) = 0, Int(1.25) = 1
     });
     EläintenTuotanto(t.peli);
-    EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
-    EXPECT_EQ(t.m.Var[Maito], 9);
-    EXPECT_EQ(t.m.Var[Villa], 9);
-    EXPECT_EQ(t.m.Var[Muna], 4);
-    EXPECT_EQ(t.m.Var[Lanta], 5);
+    EXPECT_EQ(std::tuple(t.peli.arvonta.JonossaJäljellä(), t.m.Var[Maito], t.m.Var[Villa], t.m.Var[Muna],
+                         t.m.Var[Lanta]),
+              std::tuple(0u, 9, 9, 4, 5));
 }
 
 TEST(Output, SuppliesAddOneAPassAndLowHygieneCutsTheDraw) {

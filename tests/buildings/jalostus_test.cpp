@@ -57,10 +57,8 @@ TEST(Chains, TheShiftRuleGatesAChainAndItsDraws) {
         t.Arvot(c.arvot);
         t.peli.arvonta.Jonoon(0.77);  // one spare: a draw too many takes it
         Jalostus(t.peli, Saha);
-        EXPECT_EQ(t.Jäljellä(), 1u) << c.nimi;
-        EXPECT_EQ(t.m.Var[Lauta], c.lautaa) << c.nimi;
-        EXPECT_EQ(t.m.Var[Puu], c.puuta) << c.nimi;
-        EXPECT_EQ(t.m.YlityöPalkat, c.palkat) << c.nimi;
+        EXPECT_EQ(std::tuple(t.Jäljellä(), t.m.Var[Lauta], t.m.Var[Puu], t.m.YlityöPalkat),
+                  std::tuple(1u, c.lautaa, c.puuta, c.palkat)) << c.nimi;
     }
 }
 
@@ -97,9 +95,8 @@ TEST(Chains, WorkIsCutByThePercentageTheTestIsStrictAndRoundWholeStocksToEven) {
         t.m.Var[c.tuote] = c.tuotetta;
         t.Arvot({c.r});
         Jalostus(t.peli, c.rakennus);
-        EXPECT_EQ(t.Jäljellä(), 0u) << c.nimi;
-        EXPECT_EQ(t.m.Var[c.raaka], c.raakaaJälkeen) << c.nimi;
-        EXPECT_EQ(t.m.Var[c.tuote], c.tuotettaJälkeen) << c.nimi;
+        EXPECT_EQ(std::tuple(t.Jäljellä(), t.m.Var[c.raaka], t.m.Var[c.tuote]),
+                  std::tuple(0u, c.raakaaJälkeen, c.tuotettaJälkeen)) << c.nimi;
     }
 }
 
@@ -120,11 +117,8 @@ TEST(Chains, TheBakeryMakesBreadThenPastryFromOneN) {
         t.m.Var[Muna] = c.munia;
         t.Arvot({0.0});
         Jalostus(t.peli, Leipomo);
-        EXPECT_EQ(t.Jäljellä(), 0u) << c.nimi;
-        EXPECT_EQ(t.m.Var[Jauho], c.jauhoaJälkeen) << c.nimi;
-        EXPECT_EQ(t.m.Var[Muna], c.munia_) << c.nimi;
-        EXPECT_EQ(t.m.Var[Leipä], c.leipää) << c.nimi;
-        EXPECT_EQ(t.m.Var[Leivos], c.leivoksia) << c.nimi;
+        EXPECT_EQ(std::tuple(t.Jäljellä(), t.m.Var[Jauho], t.m.Var[Muna], t.m.Var[Leipä], t.m.Var[Leivos]),
+                  std::tuple(0u, c.jauhoaJälkeen, c.munia_, c.leipää, c.leivoksia)) << c.nimi;
     }
 }
 
@@ -163,10 +157,8 @@ TEST(Chains, PollinationNeedsWorkingBeeKeepersAndEachGardenRoundDrawsItsOwnBonus
     t.Arvot({0.9, 0.0, 0.9, 0.0, 0.0, 0.0, 0.0, 0.0});
     Jalostus(t.peli, Kasvihuone);
     Jalostus(t.peli, Marjatarha);
-    EXPECT_EQ(t.Jäljellä(), 0u);
-    EXPECT_EQ(t.m.Var[Vihannes], 6);
-    EXPECT_EQ(t.m.Var[Marja], 24);
-    EXPECT_EQ(t.m.YlityöPalkat, 2 * 110);
+    EXPECT_EQ(std::tuple(t.Jäljellä(), t.m.Var[Vihannes], t.m.Var[Marja], t.m.YlityöPalkat),
+              std::tuple(0u, 6, 24, 2 * 110));
 }
 
 TEST(FeedPlant, WishPercentageGrainTestLimitAndLoad) {
@@ -210,9 +202,7 @@ TEST(FeedPlant, WishPercentageGrainTestLimitAndLoad) {
     t.m.Var[Vilja] = 60;
     t.Arvot({0.99});
     Jalostus(t.peli, Rehuntuotanto);
-    EXPECT_EQ(t.m.Var[Vilja], 50);
-    EXPECT_EQ(t.m.Var[Rehu], 12);
-    EXPECT_EQ(t.m.RehuaTuotettu, 12);
+    EXPECT_EQ(std::tuple(t.m.Var[Vilja], t.m.Var[Rehu], t.m.RehuaTuotettu), std::tuple(50, 12, 12));
 }
 
 TEST(FeedPlant, ACounterPastItsWidthIsFailureSixAndTheDayGoesOn) {
@@ -267,10 +257,7 @@ TEST(Chains, TheDayOrderTakesItsDrawsFeedSawYardsThenTheHouseChains) {
     EXPECT_EQ(t.m.Var[Vilja], 92);         // feed 2, mill n = 6
     // The bakery works today's flour: 12 - 8; the winery presses today's berries: S = 8 after the
     // second pollination gives Int(16 + 0.7) = 16 berries, 6 of them pressed.
-    EXPECT_EQ(t.m.Var[Jauho], 4);
-    EXPECT_EQ(t.m.Var[Leipä], 10);
-    EXPECT_EQ(t.m.Var[Marja], 10);
-    EXPECT_EQ(t.m.Var[Viini], 5);
+    EXPECT_EQ(std::tuple(t.m.Var[Jauho], t.m.Var[Leipä], t.m.Var[Marja], t.m.Var[Viini]), std::tuple(4, 10, 10, 5));
     EXPECT_FALSE(t.peli.päivänKuorma) << "figures taken outside a day are dropped";
 
     // In winter the season block neither draws nor makes anything; the winery still works.
@@ -280,10 +267,8 @@ TEST(Chains, TheDayOrderTakesItsDrawsFeedSawYardsThenTheHouseChains) {
     talvi.m.Var[Marja] = 100;
     talvi.Arvot({0.9, 0.5, 0.0, 0.99, 0.6, 0.4});
     Jalostus(talvi.peli);
-    EXPECT_EQ(talvi.Jäljellä(), 0u);
-    EXPECT_EQ(talvi.m.Var[Hunaja] + talvi.m.Var[Vihannes], 0);
-    EXPECT_EQ(talvi.m.Var[Viini], 5);
-
+    EXPECT_EQ(std::tuple(talvi.Jäljellä(), talvi.m.Var[Hunaja] + talvi.m.Var[Vihannes], talvi.m.Var[Viini]),
+              std::tuple(0u, 0, 5));
 }
 
 }  // namespace

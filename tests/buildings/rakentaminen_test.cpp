@@ -115,10 +115,8 @@ TEST(Ordering, AnOrderPaysDeductsATenthAndShowsItsDays) {
         t.m.PakkaamoMax = 4000;
         t.Valitse(c.kohde, c.askel);
         TilaaKohde(t.peli);
-        EXPECT_EQ(t.m.Raha, 1000000 - c.hinta) << c.kohde;
-        EXPECT_EQ(t.m.Verovähennykset, 7 + c.vähennys) << c.kohde;
-        EXPECT_EQ(t.m.RakAika[c.kohde], c.päivät) << c.kohde;
-        EXPECT_EQ(t.m.RakTilaus[c.kohde], c.tilaus) << c.kohde;
+        EXPECT_EQ(std::tuple(t.m.Raha, t.m.Verovähennykset, t.m.RakAika[c.kohde], t.m.RakTilaus[c.kohde]),
+                  std::tuple(1000000 - c.hinta, 7 + c.vähennys, c.päivät, c.tilaus)) << c.kohde;
         EXPECT_EQ(t.r().päivät[c.kohde], std::to_string(c.päivät) + " päivää");
         EXPECT_EQ(t.r().info, TEKSTI_RAKENTEILLA);
         // The packing plant starts from its opening figures as soon as it is ordered.
@@ -159,12 +157,10 @@ TEST(Ordering, RefusalsComeInTheirOrderAndChangeNothing) {
         t.Valitse(c.kohde);
         const Muuttujat ennen = t.m;
         TilaaKohde(t.peli);
-        EXPECT_EQ(t.Tapahtumat(), c.odotus) << c.nimi;
-        EXPECT_EQ(t.m.Raha, ennen.Raha) << c.nimi;
-        EXPECT_EQ(t.m.RakAika, ennen.RakAika) << c.nimi;
-        EXPECT_EQ(t.m.RakTilaus, ennen.RakTilaus) << c.nimi;
-        EXPECT_EQ(t.m.Verovähennykset, ennen.Verovähennykset) << c.nimi;
-        EXPECT_EQ(t.r().info == TEKSTI_PARHAILLAAN, std::string(c.nimi) == "running order") << c.nimi;
+        EXPECT_EQ(std::tuple(t.Tapahtumat(), t.m.Raha, t.m.RakAika, t.m.RakTilaus, t.m.Verovähennykset,
+                             t.r().info == TEKSTI_PARHAILLAAN),
+                  std::tuple(c.odotus, ennen.Raha, ennen.RakAika, ennen.RakTilaus, ennen.Verovähennykset,
+                             std::string(c.nimi) == "running order")) << c.nimi;
     }
 }
 
@@ -201,9 +197,8 @@ TEST(DayLabels, StarsLockTheirBuildingsOverAnyDayCount) {
         AvaaRakennukset(t.peli);
         for (std::size_t i = 0; i < RAKENNUKSIA; ++i) {
             const bool lukittu = std::find(c.lukitut.begin(), c.lukitut.end(), i) != c.lukitut.end();
-            EXPECT_EQ(t.r().päivät[i] == "Lukittu", lukittu) << int(c.tähdet) << " " << i;
-            EXPECT_EQ(t.r().päivätPunaisella[i], lukittu) << int(c.tähdet) << " " << i;
-            EXPECT_EQ(t.r().päivätNäkyvät[i], lukittu || i == Saha) << int(c.tähdet) << " " << i;
+            EXPECT_EQ(std::tuple(t.r().päivät[i] == "Lukittu", t.r().päivätPunaisella[i], t.r().päivätNäkyvät[i]),
+                      std::tuple(lukittu, lukittu, lukittu || i == Saha)) << int(c.tähdet) << " " << i;
         }
         EXPECT_EQ(t.r().päivät[Saha] == "12 päivää", c.tähdet >= 2 || !c.lukitus) << int(c.tähdet);
         EXPECT_EQ(t.r().päivät[NAVETTA], "3 päivää");

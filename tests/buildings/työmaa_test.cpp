@@ -42,9 +42,8 @@ TEST(WorkOrders, CarpentersBurnBoardsOnlyAboveTheDaysUseAndWithDaysToSpare) {
         t.m.RakTilaus[Meijeri] = 1;
         t.peli.arvonta.Jonoon(0.5);
         TyömaaPäivä(t.peli);
-        EXPECT_EQ(t.m.RakAika[Meijeri], c.aikaJälkeen) << c.nimi;
-        EXPECT_EQ(t.m.Var[Lauta], c.lautaaJälkeen) << c.nimi;
-        EXPECT_EQ(t.m.Rak[Meijeri], c.aikaJälkeen == 0 ? 1 : 0) << c.nimi;
+        EXPECT_EQ(std::tuple(t.m.RakAika[Meijeri], t.m.Var[Lauta], t.m.Rak[Meijeri]),
+                  std::tuple(c.aikaJälkeen, c.lautaaJälkeen, c.aikaJälkeen == 0 ? 1 : 0)) << c.nimi;
     }
 }
 
@@ -66,12 +65,9 @@ TEST(WorkOrders, OneDrawServesEveryOrderAndCompletionsAreListedStoresFirst) {
     t.peli.arvonta.Jonoon(0.0);   // left for whatever draws next
     TyömaaPäivä(t.peli);
     // Siilo, Saha and Varasto burned 9 boards each; Navetta and Pakkaamo had one day left.
-    EXPECT_EQ(t.m.Var[Lauta], 73);
-    EXPECT_EQ(t.m.RakAika[Saha], 3);
-    EXPECT_EQ(t.m.RakAika[varasto], 6);
-    EXPECT_EQ(t.m.Koko_Navetta, 20);
-    EXPECT_EQ(t.m.Koko_Siilo, 700);
-    EXPECT_EQ(t.m.Rak[Pakkaamo], 1);
+    EXPECT_EQ(std::tuple(t.m.Var[Lauta], t.m.RakAika[Saha], t.m.RakAika[varasto], t.m.Koko_Navetta, t.m.Koko_Siilo,
+                         t.m.Rak[Pakkaamo]),
+              std::tuple(73, 3, 6, 20, 700, 1));
     EXPECT_EQ(t.peli.arvonta.U(0, 9), 0);  // only one draw was taken
     EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"LISTA|Navettasi laajennustyö on nyt valmis!",
                                           "LISTA|Siilosi laajennustyö on nyt valmis!",

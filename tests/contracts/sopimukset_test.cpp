@@ -57,9 +57,8 @@ TEST(Contracts, TheDaysRequestDrawsTwiceOrThriceAndKeepsItsDayLimits) {
         t.Arvot(c.arvot);
         Sopimustarjous(t.peli);
         t.Käytetty(c.nimi);
-        EXPECT_EQ(t.peli.näkymä.Sopimuksia, c.jälkeen) << c.nimi;
-        EXPECT_EQ(t.peli.näkymä.Puhelin, c.puhelin) << c.nimi;
-        EXPECT_EQ(t.Tapahtumat(), c.pyyntö ? Tapahtumat{PYYNTÖ} : Tapahtumat{}) << c.nimi;
+        EXPECT_EQ(std::tuple(t.peli.näkymä.Sopimuksia, t.peli.näkymä.Puhelin, t.Tapahtumat()),
+                  std::tuple(c.jälkeen, c.puhelin, c.pyyntö ? Tapahtumat{PYYNTÖ} : Tapahtumat{})) << c.nimi;
     }
 }
 
@@ -115,9 +114,8 @@ TEST(Contracts, APenaltyPast32BitsIsReportedOnceAndOpensNoCall) {
     EXPECT_EQ(e[0], "VIKA|Tuntematon / määrittämätön|6|Kyllä");  // the screen event has no place of its own
     const SopimusRuutuTila& r = t.peli.sopimusruutu;
     EXPECT_FALSE(r.Puhelussa);
-    EXPECT_EQ(r.indeksi, -1);
-    EXPECT_EQ(r.infoa, "");
-    EXPECT_EQ(t.peli.näkymä.Sopimuksia, std::vector<std::string>{"Turkki"});
+    EXPECT_EQ(std::tuple(r.indeksi, r.infoa, t.peli.näkymä.Sopimuksia),
+              std::tuple(-1, "", std::vector<std::string>{"Turkki"}));
 }
 
 TEST(Contracts, TheOfferTextTellsTheTermsTheStockAndTheDaysLeft) {
@@ -202,12 +200,10 @@ TEST(Contracts, CancellingAsksAndPaysThePenaltyFromCashAlone) {
         EXPECT_EQ(t.peli.sopimusruutu.Peruttava, "Maito");
         t.kanavat.vastaukset.push_back(vastaus);
         PeruSopimus(t.peli);
-        EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"VIESTI|1|" + KYSYMYS + "|" + vastaus});
-        EXPECT_EQ(t.m.Raha, kyllä ? -200 : 1000);
-        EXPECT_EQ(t.m.Sop[2].Tuote, kyllä ? "" : "Maito");
-        EXPECT_EQ(t.m.Sop[2].Sakko, kyllä ? 0 : 1200);
-        EXPECT_EQ(t.m.SopimuksiaEpä, kyllä ? 1 : 0);
-        EXPECT_EQ(t.m.Sopimustulot, 50);
+        EXPECT_EQ(std::tuple(t.Tapahtumat(), t.m.Raha, t.m.Sop[2].Tuote, t.m.Sop[2].Sakko, t.m.SopimuksiaEpä,
+                             t.m.Sopimustulot),
+                  std::tuple(Tapahtumat{"VIESTI|1|" + KYSYMYS + "|" + vastaus}, kyllä ? -200 : 1000,
+                             kyllä ? "" : "Maito", kyllä ? 0 : 1200, kyllä ? 1 : 0, 50));
     }
 }
 
@@ -239,13 +235,10 @@ TEST(Contracts, TheMonthDeliversBreaksAndFulfilsSlotOneFirst) {
         t.Arvot(c.arvot);
         SopimusKuukausi(t.peli);
         t.Käytetty(c.nimi);
-        EXPECT_EQ(t.m.Var[tuote], c.varastoJälkeen) << c.nimi;
-        EXPECT_EQ(t.m.Raha, c.raha) << c.nimi;
-        EXPECT_EQ(t.m.Sopimustulot, c.tulot) << c.nimi;
-        EXPECT_EQ((std::array<Long, 3>{t.m.Sop[0].Kesto, t.m.Sop[1].Kesto, t.m.Sop[2].Kesto}), c.kestot) << c.nimi;
-        EXPECT_EQ(t.m.SopimuksiaLäpi, c.läpi) << c.nimi;
-        EXPECT_EQ(t.m.SopimuksiaEpä, c.epä) << c.nimi;
-        EXPECT_EQ(t.Tapahtumat(), c.ilmoitukset) << c.nimi;
+        EXPECT_EQ(std::tuple(t.m.Var[tuote], t.m.Raha, t.m.Sopimustulot,
+                             (std::array<Long, 3>{t.m.Sop[0].Kesto, t.m.Sop[1].Kesto, t.m.Sop[2].Kesto}),
+                             t.m.SopimuksiaLäpi, t.m.SopimuksiaEpä, t.Tapahtumat()),
+                  std::tuple(c.varastoJälkeen, c.raha, c.tulot, c.kestot, c.läpi, c.epä, c.ilmoitukset)) << c.nimi;
     }
 }
 
@@ -253,9 +246,7 @@ TEST(Contracts, TheSlotViewWritesMonthsAsAYearAndTheRest) {
     for (auto [kesto, teksti] : std::initializer_list<std::pair<Long, const char*>>{
              {0, "0"}, {1, "1 kk"}, {11, "11 kk"}, {12, "1 v "}, {17, "1 v 5 kk"}})
         EXPECT_EQ(Kestoteksti(kesto), teksti);
-    EXPECT_EQ(Kuukausiluku(900), "900 /KK");
-    EXPECT_EQ(Kuukausiluku(0), "0");
-    EXPECT_EQ(Bonus(1001), 700);
+    EXPECT_EQ(std::tuple(Kuukausiluku(900), Kuukausiluku(0), Bonus(1001)), std::tuple("900 /KK", "0", 700));
 }
 
 }  // namespace

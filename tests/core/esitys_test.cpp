@@ -98,9 +98,8 @@ TEST_F(Music, OneSongOrNoneIsPickedWithoutADraw) {
     p.peli.asetukset.Musiikki = true;
     p.peli.arvonta.Jonoon(0.0);
     AloitaMusiikki(p.peli);
-    EXPECT_EQ(p.peli.soitin.ListIndex, 0);
-    EXPECT_EQ(p.peli.arvonta.JonossaJäljellä(), 1u);
-    EXPECT_EQ(p.Tapahtumat(), (std::vector<std::string>{"MIDI|soita|yksi.mid"}));
+    EXPECT_EQ(std::tuple(p.peli.soitin.ListIndex, p.peli.arvonta.JonossaJäljellä(), p.Tapahtumat()),
+              std::tuple(0, 1u, (std::vector<std::string>{"MIDI|soita|yksi.mid"})));
 }
 
 TEST_F(Music, ThePanelSlidesOnlyWithAnimations) {

@@ -59,9 +59,7 @@ TEST(Arithmetic, ValuesOutsideTheirWidthAreFailureSix) {
 }
 
 TEST(Arithmetic, IntFixIntegerDivisionAndMod) {
-    EXPECT_EQ(Int(2.7), 2);
-    EXPECT_EQ(Int(-2.5), -3);
-    EXPECT_EQ(Fix(-2.5), -2);
+    EXPECT_EQ(std::tuple(Int(2.7), Int(-2.5), Fix(-2.5)), std::tuple(2, -3, -2));
     struct Tapaus { double a, b; long long jako, jäännös; };
     for (const Tapaus& t : {Tapaus{7, 2, 3, 1}, {-7, 2, -3, -1}, {7.5, 2, 4, 0}, {2.5, 1.5, 1, 0},
                             {6.5, 2.5, 3, 0}, {9, -4, -2, 1}, {-9, -4, 2, -1}}) {
@@ -73,20 +71,15 @@ TEST(Arithmetic, IntFixIntegerDivisionAndMod) {
 }
 
 TEST(Arithmetic, StrWritesNumbersAsMessagesShowThem) {
-    EXPECT_EQ(Str(5), " 5");
-    EXPECT_EQ(Str(-5), "-5");
-    EXPECT_EQ(Str(static_cast<Integer>(-32768)), "-32768");
+    EXPECT_EQ(std::tuple(Str(5), Str(-5), Str(static_cast<Integer>(-32768))), std::tuple(" 5", "-5", "-32768"));
     struct Tapaus { float x; const char* odotettu; };
     for (const Tapaus& t : {Tapaus{0.5f, " .5"}, {-0.5f, "-.5"}, {1234567.0f, " 1234567"},
                             {12345678.0f, " 1.234568E+07"}, {3.14159265f, " 3.141593"}, {10000.0f, " 10000"},
                             {0.1f, " .1"}, {1e-5f, " 1E-05"}, {0.0001f, " .0001"}, {-1.5f, "-1.5"}, {0.0f, " 0"}}) {
         EXPECT_EQ(Str(t.x), t.odotettu);
     }
-    EXPECT_EQ(Str(0.1), " .1");
-    EXPECT_EQ(Str(123456789012.0), " 123456789012");
-    EXPECT_EQ(Str(1.0 / 3.0), " .333333333333333");
-    EXPECT_EQ(Suoraan(Str(42)), "42");
-    EXPECT_EQ(Suoraan(Str(-42)), "-42");
+    EXPECT_EQ(std::tuple(Str(0.1), Str(123456789012.0), Str(1.0 / 3.0), Suoraan(Str(42)), Suoraan(Str(-42))),
+              std::tuple(" .1", " 123456789012", " .333333333333333", "42", "-42"));
 }
 
 TEST(Arithmetic, ReadingNumbersFromText) {

@@ -30,9 +30,8 @@ TEST(Activists, KindsInOrderAndAnEmptyRaidIsStillTold) {
         t.Vakuuta(VakuutusVarkaus);
         const auto tulos = t.Pelaa(23, {0.5, 0.9, 0.5});
         ASSERT_TRUE(tulos);
-        EXPECT_EQ(tulos->teksti, TEKSTI + "vakuutus korvasi eläimistä  925");
-        EXPECT_EQ(t.m.El[Kana][Naaras], 6);
-        EXPECT_EQ(t.m.El[Kettu][Naaras], 2);
+        EXPECT_EQ(std::tuple(tulos->teksti, t.m.El[Kana][Naaras], t.m.El[Kettu][Naaras]),
+                  std::tuple(TEKSTI + "vakuutus korvasi eläimistä  925", 6, 2));
     }
 }
 

@@ -60,9 +60,8 @@ TEST(Bank, ALoanIsGrantedUpToTheLimitAndOnlyForMoreThanNothing) {
         if (c.viesti.empty()) {
             const Single s = c.summa == "1" ? 1 : 6180;
             EXPECT_EQ(t.m.Raha, 1000 + s) << "the cents of the cash are dropped";
-            EXPECT_EQ(t.m.Laina, s);
-            EXPECT_EQ(r.teksti, "Pankki lainasi sinulle juuri " + Str(s) + " rahaa.");
-            EXPECT_EQ(r.lainaz, Luku(s));
+            EXPECT_EQ(std::tuple(t.m.Laina, r.teksti, r.lainaz),
+                      std::tuple(s, "Pankki lainasi sinulle juuri " + Str(s) + " rahaa.", Luku(s)));
             EXPECT_FALSE(r.Command8);
             EXPECT_TRUE(t.Tapahtumat().empty());
         } else {

@@ -59,13 +59,10 @@ TEST(Forester, PassesTakeTheirDrawsInTheRuleOrder) {
         t.m.MetsääJäljellä = c.jäljellä;
         t.Arvonnat(c.r);
         Metsänhakkuu(t.peli);
-        EXPECT_EQ(t.m.Var[Puu], c.puu) << c.nimi;
-        EXPECT_EQ(t.m.MetsääJäljellä, c.jäljelläNyt) << c.nimi;
-        EXPECT_EQ(t.m.PuutaHakattu, c.hakattu) << c.nimi;
-        EXPECT_EQ(t.m.YlityöPalkat, c.ylityöpalkat) << c.nimi;
-        EXPECT_EQ(std::pair(t.m.Metsä, t.m.Joutomaa), std::pair(c.metsäNyt, c.joutomaa)) << c.nimi;
-        EXPECT_EQ(t.peli.näkymä.Lista, c.lista) << c.nimi;
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u) << c.nimi;
+        EXPECT_EQ(std::tuple(t.m.Var[Puu], t.m.MetsääJäljellä, t.m.PuutaHakattu, t.m.YlityöPalkat,
+                             std::pair(t.m.Metsä, t.m.Joutomaa), t.peli.näkymä.Lista, t.peli.arvonta.JonossaJäljellä()),
+                  std::tuple(c.puu, c.jäljelläNyt, c.hakattu, c.ylityöpalkat, std::pair(c.metsäNyt, c.joutomaa),
+                             c.lista, 0u)) << c.nimi;
     }
 }
 

@@ -48,9 +48,8 @@ TEST_F(Tuotepeli, CardShowsPriceSeasonOffsetAndTotal) {
         m.Var[c.k] = c.varasto;
         AvaaTuote(t.peli, c.k);
         const std::string nimi = std::string(TUOTETAULU[c.k].avain) + " " + c.kausi + " " + std::to_string(c.varasto);
-        EXPECT_EQ(r.vAika, c.vAika) << nimi;
-        EXPECT_EQ((std::array<double, 3>{r.yhinta, r.Yhthinta, r.kpl}), (std::array<double, 3>{c.yhinta, c.yht, c.varasto})) << nimi;
-        EXPECT_EQ(r.ostaKäytössä, c.k == Rehu) << nimi;
+        EXPECT_EQ(std::tuple(r.vAika, (std::array<double, 3>{r.yhinta, r.Yhthinta, r.kpl}), r.ostaKäytössä),
+                  std::tuple(c.vAika, (std::array<double, 3>{c.yhinta, c.yht, c.varasto}), c.k == Rehu)) << nimi;
     }
     AvaaTuote(t.peli, Muna);
     EXPECT_EQ(r.nimi, "Kananmuna");

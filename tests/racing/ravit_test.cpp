@@ -72,9 +72,8 @@ TEST(Races, ANameOnTheRowsIsDrawnAgainUnlessNoOtherCanCome) {
         t.Jonoon(ARVONTOJA - 3, 0.5);
         ValitseVetolaji(t.peli, vetolaji::Trio);
         EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u) << näkyvissä;
-        EXPECT_EQ(t.r().LähtöNimet[0][0], näkyvissä == 1 ? "Heppa1" : "Heppa0");
-        EXPECT_EQ(t.r().LähtöKertoimet[0][0], "1.00");
-        EXPECT_EQ(t.r().LähtöKertoimet[0][1], "2.40");
+        EXPECT_EQ(std::tuple(t.r().LähtöNimet[0][0], t.r().LähtöKertoimet[0][0], t.r().LähtöKertoimet[0][1]),
+                  std::tuple(näkyvissä == 1 ? "Heppa1" : "Heppa0", "1.00", "2.40"));
     }
     EXPECT_EQ(Kerrointeksti(2, 8), "3.80");
     EXPECT_EQ(Kerrointeksti(1, 1), "2.10");
@@ -97,10 +96,8 @@ TEST(Races, MarkingByKind) {
     t.r().RiviNro = 3;
     MerkitseHevonen(t.peli, 6);
     ValitseKerroin(t.peli, 1);
-    EXPECT_EQ(t.r().Ruutu[6], "X");
-    EXPECT_EQ(t.r().Ruutu[1], "");
-    EXPECT_EQ(t.r().LähtöMerkit[3][6], "X");
-    EXPECT_EQ(t.r().LähtöMerkit[3][5], "");
+    EXPECT_EQ(std::tuple(t.r().Ruutu[6], t.r().Ruutu[1], t.r().LähtöMerkit[3][6], t.r().LähtöMerkit[3][5]),
+              std::tuple("X", "", "X", ""));
     t.r().Vetolaji = vetolaji::Voittajaveto;
     ValitseKerroin(t.peli, 1);
     EXPECT_EQ(t.r().Ruutu[1] + t.r().Ruutu[6], "X");

@@ -92,9 +92,7 @@ TEST(Curves, AnItemThatIsNotANumberIsFailure13AtItsButton) {
             // Going on leaves both out: one line from the good item, the labels at the lowest rung.
             Tapahtumat odotetut = alku;
             odotetut.insert(odotetut.end(), {"ÄÄNI|virhe", "VIKA|Käyrät formi. Command1 click|13|Kyllä"});
-            EXPECT_EQ(t.Tapahtumat(), odotetut);
-            EXPECT_EQ(t.r().janat.size(), 2u);
-            EXPECT_EQ(t.r().Maximi, " 100;-");
+            EXPECT_EQ(std::tuple(t.Tapahtumat(), t.r().janat.size(), t.r().Maximi), std::tuple(odotetut, 2u, " 100;-"));
         } else {
             EXPECT_EQ(t.Tapahtumat(), alku) << "giving up stops at the first";
             EXPECT_TRUE(t.r().janat.empty());
@@ -158,10 +156,9 @@ TEST(Curves, TablesPrintTwentyProductsAtColumnFiveRedBelowZero) {
     EXPECT_TRUE(t.r().janat.empty());
     const Tapahtumat e = t.Tapahtumat();
     ASSERT_EQ(e.size(), 23u);
-    EXPECT_EQ(e[1], "ALUE|Käyrät.Taulu");
-    EXPECT_EQ(e[2], "RIVI|0,0,0|0|");
-    EXPECT_EQ(e[3], "RIVI|180,0,0|5|Maito : -765432.2");
-    EXPECT_EQ(e[22], "RIVI|0,0,0|5|Hunaja :  0");
+    EXPECT_EQ(std::tuple(e[1], e[2], e[3], e[22]),
+              std::tuple("ALUE|Käyrät.Taulu", "RIVI|0,0,0|0|", "RIVI|180,0,0|5|Maito : -765432.2",
+                         "RIVI|0,0,0|5|Hunaja :  0"));
     TuotteidenBrutto(t.peli);
     EXPECT_EQ(t.Tapahtumat()[2], "RIVI|0,0,0|5|Maito :  1234568") << "a table plays no sound";
     EXPECT_EQ(t.r().otsikko, "Viime kk:n tuotteiden brutto myynti");

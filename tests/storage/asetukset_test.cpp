@@ -24,9 +24,8 @@ TEST(SettingsFile, ALineTheGameWouldRefuseKeepsTheShippedValue) {
              {"", {1, 2, 3, 4, 5, 6, 7, 8, 9}, true, 50},
          }) {
         Asetukset a;
-        EXPECT_EQ(JäsennäAsetukset(c.teksti, oletus, a), c.huonot) << c.teksti;
-        EXPECT_EQ(a.Musiikki, c.musiikki) << c.teksti;
-        EXPECT_EQ(a.AnimNopeus, c.nopeus) << c.teksti;
+        EXPECT_EQ(std::tuple(JäsennäAsetukset(c.teksti, oletus, a), a.Musiikki, a.AnimNopeus),
+                  std::tuple(c.huonot, c.musiikki, c.nopeus)) << c.teksti;
     }
     EXPECT_EQ(HuonotRivit({5}, false),
               "Asetukset.dat: rivi 5 ei kelvannut pelille; sen tilalla on asennuksen arvo.");

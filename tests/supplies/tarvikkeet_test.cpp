@@ -48,10 +48,8 @@ TEST(Lists, EachButtonShowsItsListTitleTextAndAction) {
         Kauppa t;
         t.Klik(c.nappi);
         EXPECT_EQ(t.r().Lista.size(), c.rivejä) << c.otsikko;
-        EXPECT_EQ(t.r().otsikko, c.otsikko);
-        EXPECT_EQ(t.r().info, c.info);
-        EXPECT_EQ(t.r().Command5, c.Command5);
-        EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|klik2"});
+        EXPECT_EQ(std::tuple(t.r().otsikko, t.r().info, t.r().Command5, t.Tapahtumat()),
+                  std::tuple(c.otsikko, c.info, c.Command5, Tapahtumat{"ÄÄNI|klik2"}));
     }
     // Every item bought: the list is empty, says so, and the button still offers to buy.
     Kauppa t;
@@ -83,10 +81,9 @@ TEST(Buying, ExactlyEnoughMoneyBuysAndLessIsRefusedWithTheShortfallUnnarrowed) {
         t.Klik(Command5Tarvikkeet);
         EXPECT_EQ(t.m.Tarv[Palohälytin], !c.viesti) << c.raha;
         if (!c.viesti) {
-            EXPECT_EQ(t.m.Raha, c.raha - 5000);
-            EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|klik2"});
-            EXPECT_EQ(t.r().Tavarat, Rivit{Palohälytin});
-            EXPECT_EQ(t.r().Lista, Rivit(YLEISET.begin() + 1, YLEISET.end()));
+            EXPECT_EQ(std::tuple(t.m.Raha, t.Tapahtumat(), t.r().Tavarat, t.r().Lista),
+                      std::tuple(c.raha - 5000, Tapahtumat{"ÄÄNI|klik2"}, Rivit{Palohälytin},
+                                 Rivit(YLEISET.begin() + 1, YLEISET.end())));
             // The labels are blanked and nothing is chosen: a second press does nothing.
             EXPECT_EQ(t.r().info + t.r().hinta + t.r().nimi, "");
             Command5Tarvikkeet(t.peli);

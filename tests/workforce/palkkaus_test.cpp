@@ -68,9 +68,8 @@ TEST(Firing, OneInThreeSuesIfThereIsCashAndTheClaimMayTakeItBelowZero) {
         EXPECT_EQ(t.peli.työvoimaruutu.Työläisiä, 1);
         EXPECT_EQ(t.m.Raha, c.rahaJälkeen) << c.raha << " " << c.arpa;
         if (c.summa.empty()) {
-            EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 1u);
-            EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|siirto"});
-            EXPECT_EQ(t.peli.näkymä.PaluuLomake, "");
+            EXPECT_EQ(std::tuple(t.peli.arvonta.JonossaJäljellä(), t.Tapahtumat(), t.peli.näkymä.PaluuLomake),
+                      std::tuple(1u, Tapahtumat{"ÄÄNI|siirto"}, ""));
         } else {
             EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
             EXPECT_EQ(t.Tapahtumat(),
