@@ -143,8 +143,7 @@ TEST(AnimalCards, ACardIsFoundByKeyOrTitleAndQuotesTheFarmsMeat) {
     Tila t;
     t.m.Lihaa[Kana][0] = 11;
     const int kortti = KorttiNimellä("KettuUros");
-    EXPECT_EQ(KorttiNimellä("Uros Kettu"), kortti);
-    EXPECT_EQ(KorttiNimellä("Hevonen"), -1);
+    EXPECT_EQ(std::tuple(KorttiNimellä("Uros Kettu"), KorttiNimellä("Hevonen")), std::tuple(kortti, -1));
     ValitseEläin(t.peli, KorttiNimellä("Kana"));
     const EläinRuutuTila& r = t.peli.eläinruutu;
     EXPECT_EQ((std::array<long, 3>{r.liha, r.yhtosto, r.yhtmyynti}), (std::array<long, 3>{11, 500, 300}));
@@ -167,8 +166,7 @@ TEST(AnimalCards, TheLotStepsBetweenOneTenAndHundred) {
     // Choosing another card keeps the lot; every step and choice is a small move.
     määräplus(t.peli);
     ValitseEläin(t.peli, KorttiNimellä("Kana"));
-    EXPECT_EQ(r.yhtosto, 5000);
-    EXPECT_EQ(t.Tapahtumat(), Tapahtumat(9, "ÄÄNI|siirto"));
+    EXPECT_EQ(std::tuple(r.yhtosto, t.Tapahtumat()), std::tuple(5000, Tapahtumat(9, "ÄÄNI|siirto")));
 }
 
 TEST(SlaughterLimits, ANumberBecomesItsWholePartNotBelowZeroAndTheRestIsRefused) {
@@ -188,11 +186,9 @@ TEST(SlaughterLimits, ANumberBecomesItsWholePartNotBelowZeroAndTheRestIsRefused)
         EXPECT_EQ(t.m.Eläimet.TeurasRaja[1], c.jää) << c.kirjoitettu;
         const Tapahtumat odotetut =
             otettu ? Tapahtumat{} : Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|Teurasrajan pitää olla luku.|vastattu"};
-        EXPECT_EQ(otettu, std::string(c.jää) != "5") << c.kirjoitettu;
-        EXPECT_EQ(t.Tapahtumat(), odotetut) << c.kirjoitettu;
+        EXPECT_EQ(std::tuple(otettu, t.Tapahtumat()), std::tuple(std::string(c.jää) != "5", odotetut)) << c.kirjoitettu;
     }
-    EXPECT_EQ(TeurasRajaNimellä("TeurasKettuUrosRaja"), 9);
-    EXPECT_EQ(TeurasRajaNimellä("Ori"), -1);
+    EXPECT_EQ(std::tuple(TeurasRajaNimellä("TeurasKettuUrosRaja"), TeurasRajaNimellä("Ori")), std::tuple(9, -1));
 }
 
 TEST(AnimalScreen, HintsAndLabelsFollowThePointerAndEscHidesTheCardFirst) {

@@ -144,8 +144,7 @@ TEST(Chains, PollinationNeedsWorkingBeeKeepersAndEachGardenRoundDrawsItsOwnBonus
         t.Arvot(c.arvot);
         Jalostus(t.peli, Mehiläistarha);
         Jalostus(t.peli, Marjatarha);
-        EXPECT_EQ(t.Jäljellä(), 0u) << c.nimi;
-        EXPECT_EQ(t.m.Var[Marja], c.marjoja) << c.nimi;
+        EXPECT_EQ(std::tuple(t.Jäljellä(), t.m.Var[Marja]), std::tuple(0u, c.marjoja)) << c.nimi;
     }
 
     // Two gardeners on overtime: the vegetable round draws k and r for each, then the berry round

@@ -70,8 +70,7 @@ TEST(Catalogue, StepperMovesAlongTheRowOnlyAndSoundsOnlyWhenItMoves) {
     EXPECT_EQ(t.r().määrä, 50);
     EXPECT_TRUE(t.Tapahtumat().empty());
     for (int i = 0; i < 3; ++i) AskelMäärä(t.peli, 1);
-    EXPECT_EQ(t.r().määrä, 1000);
-    EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"ÄÄNI|siirto", "ÄÄNI|siirto"}));
+    EXPECT_EQ(std::tuple(t.r().määrä, t.Tapahtumat()), std::tuple(1000, (Tapahtumat{"ÄÄNI|siirto", "ÄÄNI|siirto"})));
 }
 
 TEST(Ordering, ExactMoneyBuysAndLessIsRefusedWithTheShortfallUnnarrowed) {
@@ -89,11 +88,9 @@ TEST(Ordering, ExactMoneyBuysAndLessIsRefusedWithTheShortfallUnnarrowed) {
         t.Valitse(Saha);
         TilaaKohde(t.peli);
         if (!c.viesti) {
-            EXPECT_EQ(t.m.Raha, 0);
-            EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|siirto"});
+            EXPECT_EQ(std::tuple(t.m.Raha, t.Tapahtumat()), std::tuple(0, Tapahtumat{"ÄÄNI|siirto"}));
         } else {
-            EXPECT_EQ(t.m.Raha, c.raha);
-            EXPECT_EQ(t.m.RakAika[Saha], 0);
+            EXPECT_EQ(std::tuple(t.m.Raha, t.m.RakAika[Saha]), std::tuple(c.raha, 0));
             EXPECT_EQ(t.Tapahtumat(),
                       (Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|Rahasi eivät riitä!\\n\\n" + std::string(c.viesti) + "|vastattu"}));
         }
@@ -174,8 +171,7 @@ TEST(Ordering, StackedStoreOrderPastTheWidthFailsWithoutPaying) {
     } catch (const Vika& v) {
         EXPECT_EQ(v.Numero(), VIKA_YLIVUOTO);
     }
-    EXPECT_EQ(t.m.Raha, 1000000);
-    EXPECT_EQ(t.m.RakTilaus[NAVETTA], 0);
+    EXPECT_EQ(std::tuple(t.m.Raha, t.m.RakTilaus[NAVETTA]), std::tuple(1000000, 0));
 }
 
 TEST(DayLabels, StarsLockTheirBuildingsOverAnyDayCount) {

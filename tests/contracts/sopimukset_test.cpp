@@ -158,8 +158,7 @@ TEST(Contracts, ACallEndsInAnAnswerAndTakesTheFirstFreeSlot) {
     ValitseTarjous(t.peli, 0);
     ValitseTarjous(t.peli, 1);
     EXPECT_FALSE(SuljeSopimukset(t.peli));
-    EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{YHTEYDESSÄ, YHTEYDESSÄ}));
-    EXPECT_EQ(r.indeksi, 1);
+    EXPECT_EQ(std::tuple(t.Tapahtumat(), r.indeksi), std::tuple((Tapahtumat{YHTEYDESSÄ, YHTEYDESSÄ}), 1));
     HyväksyTarjous(t.peli);
     EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"VIESTI|0|Teit juuri Maito sopimuksen.|vastattu"});
     EXPECT_EQ(t.m.Sop[0].Tuote, "Maito");
@@ -181,8 +180,7 @@ TEST(Contracts, ACallEndsInAnAnswerAndTakesTheFirstFreeSlot) {
     const Single raha = t.m.Raha;
     HylkääTarjous(t.peli);
     EXPECT_FALSE(r.Puhelussa);
-    EXPECT_EQ(t.peli.näkymä.Sopimuksia, std::vector<std::string>{"Muna"});
-    EXPECT_EQ(t.m.Raha, raha);
+    EXPECT_EQ(std::tuple(t.peli.näkymä.Sopimuksia, t.m.Raha), std::tuple(std::vector<std::string>{"Muna"}, raha));
     EXPECT_TRUE(SuljeSopimukset(t.peli));
 }
 

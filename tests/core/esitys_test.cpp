@@ -82,8 +82,7 @@ TEST_F(Music, TheNextSongByRandomNeverTakesTheFirstRowAndByOrderWraps) {
         p.peli.soitin.ListIndex = t.rivi;
         for (double r : t.arvonnat) p.peli.arvonta.Jonoon(r);
         DirectXEvent8_DXCallback(p.peli, 1);
-        EXPECT_EQ(p.peli.soitin.ListIndex, t.seuraava);
-        EXPECT_EQ(p.peli.arvonta.JonossaJäljellä(), 0u);
+        EXPECT_EQ(std::tuple(p.peli.soitin.ListIndex, p.peli.arvonta.JonossaJäljellä()), std::tuple(t.seuraava, 0u));
         const std::string kappale = p.peli.soitin.MidiFile[static_cast<std::size_t>(t.seuraava)];
         EXPECT_EQ(p.Tapahtumat(), (std::vector<std::string>{"MIDI|soita|" + kappale}));
     }
@@ -106,12 +105,10 @@ TEST_F(Music, ThePanelSlidesOnlyWithAnimations) {
     p.peli.asetukset.Animaatiot = true;
     const std::vector<int> ulos = AvaaSoitin(p.peli, 600);
     ASSERT_EQ(ulos.size(), 401u);
-    EXPECT_EQ(ulos.front(), -200);
-    EXPECT_EQ(ulos.back(), 200);
+    EXPECT_EQ(std::tuple(ulos.front(), ulos.back()), std::tuple(-200, 200));
     EXPECT_TRUE(AvaaSoitin(p.peli, 600).empty()) << "a panel that is out doesn't move";
     const std::vector<int> piiloon = PiilotaSoitin(p.peli, 200);
-    EXPECT_EQ(piiloon.back(), -101);
-    EXPECT_EQ(piiloon.size(), 301u);
+    EXPECT_EQ(std::tuple(piiloon.back(), piiloon.size()), std::tuple(-101, 301u));
     EXPECT_FALSE(p.peli.soitin.Näkyvissä);
     p.peli.asetukset.Animaatiot = false;
     EXPECT_EQ(AvaaSoitin(p.peli, 600), std::vector<int>{200});

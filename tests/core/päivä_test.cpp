@@ -42,8 +42,7 @@ TEST(DayStep, TheHerdGivesItsOutputBeforeItEats) {
     t.m.El[Nauta][Naaras] = 2;
     for (int i = 0; i < 500; ++i) t.peli.arvonta.Jonoon(0.0);
     SeuraavaPäivä(t.peli);
-    EXPECT_EQ(t.m.Var[Maito], 6);
-    EXPECT_EQ(t.m.El[Nauta][Naaras], 1);
+    EXPECT_EQ(std::tuple(t.m.Var[Maito], t.m.El[Nauta][Naaras]), std::tuple(6, 1));
 }
 
 TEST(DayStep, WeekendsAndTheTurnOfMonthAndYear) {

@@ -47,8 +47,7 @@ TEST(Events, WageTalkTestDayDrawAndTheEvent) {
         // A day whose talks run takes the round's 39 draws after the test; none opens a talk (d is N).
         if (c.palkat) arvot.insert(arvot.begin() + 1, 39, .99);
         Aja(t, arvot);
-        EXPECT_EQ(t.m.PalkatYhteensä != 0, c.palkat);
-        EXPECT_EQ(t.Tapahtumat(), c.tapahtumat);
+        EXPECT_EQ(std::tuple(t.m.PalkatYhteensä != 0, t.Tapahtumat()), std::tuple(c.palkat, c.tapahtumat));
         // The picture is cleared once the day's draw hits, told or not.
         const std::string kuva = !c.tapahtumat.empty() ? "Kuvat/sattumat/lakimies.jpg"
                                  : c.arvot.size() > 2  ? ""

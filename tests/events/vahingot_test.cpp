@@ -124,8 +124,7 @@ TEST(Disease, HygieneGateTheAdultCounterAndAWholeClaim) {
               T("Tilallasi on esiintynyt Lehmillä tautia! Lehmiä menehtyi tautiin.", "Tauti.jpg",
                 "Lehmilläsi epäiltiin olevan BSE tartunta ja osa niistä päätyi teurastamolle.Vakuutuksesi korvasi  7000",
                 "Kärpänen"));
-    EXPECT_EQ(t.m.El[Nauta][Naaras], 8);
-    EXPECT_EQ(t.m.Raha, 7000);
+    EXPECT_EQ(std::tuple(t.m.El[Nauta][Naaras], t.m.Raha), std::tuple(8, 7000));
 }
 
 TEST(Accident, VictimRowsWinterAndTheCost) {

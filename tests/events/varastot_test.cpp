@@ -44,8 +44,7 @@ TEST(Gifts, TheSumOfDepositAndCashGatesAndAnimalsNeedRoom) {
         t.m.Raha = c.raha;
         t.m.Koko_Navetta = c.navetta;
         EXPECT_EQ(t.Pelaa(c.numero, c.arvot), c.tulos) << c.numero;
-        EXPECT_EQ(t.m.El[Kana][Naaras], c.kanoja);
-        EXPECT_EQ(t.m.Var[Liha], c.lihaa);
+        EXPECT_EQ(std::tuple(t.m.El[Kana][Naaras], t.m.Var[Liha]), std::tuple(c.kanoja, c.lihaa));
     }
 }
 
@@ -59,8 +58,7 @@ TEST(Theft, NestedRoundsClothesLeaveAndTheClaimIsTold) {
     // Claim: D(1501 x 1.5) = 1125, and 3 clothes at 1.3 x 20.
     EXPECT_EQ(tulos, T("Sinulla oli käynyt yöllä varkaita!!", "varkaita2.jpg",
                        "Sinulla oli käynyt yönaikana varkaita.vakuutus korvasi sinulle  1203", "Kolina"));
-    EXPECT_EQ(t.m.Raha, 10002.5f - 1501 + 1203);
-    EXPECT_EQ(t.m.Var[Vaate], 7);
+    EXPECT_EQ(std::tuple(t.m.Raha, t.m.Var[Vaate]), std::tuple(10002.5f - 1501 + 1203, 7));
 }
 
 TEST(Theft, GateNeedsCashAboveEightThousandThenTheWatchDraw) {

@@ -65,8 +65,7 @@ TEST(Bank, ALoanIsGrantedUpToTheLimitAndOnlyForMoreThanNothing) {
             EXPECT_FALSE(r.Command8);
             EXPECT_TRUE(t.Tapahtumat().empty());
         } else {
-            EXPECT_EQ(t.m.Raha, 1000.75f) << c.summa;
-            EXPECT_EQ(t.m.Laina, 0) << c.summa;
+            EXPECT_EQ(std::tuple(t.m.Raha, t.m.Laina), std::tuple(1000.75f, 0)) << c.summa;
             EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"ÄÄNI|virhe", c.viesti}));
         }
     }
@@ -84,8 +83,7 @@ TEST(Bank, PeriodAndDifficultyGiveRateAndMonths) {
         EXPECT_EQ(t.peli.pankkiruutu.aikaz, c.aika);
         KirjoitaSumma(t.peli, "1000");
         VahvistaLappu(t.peli);
-        EXPECT_EQ(t.m.LainaKorko, c.korko);
-        EXPECT_EQ(t.peli.pankkiruutu.Maksuaikaz, std::to_string(c.kk));
+        EXPECT_EQ(std::tuple(t.m.LainaKorko, t.peli.pankkiruutu.Maksuaikaz), std::tuple(c.korko, std::to_string(c.kk)));
     }
 }
 
@@ -104,16 +102,14 @@ TEST(Bank, DepositLimitsAndCents) {
         EXPECT_EQ(t.peli.pankkiruutu.summa, "500") << "half the cash, whole";
         KirjoitaSumma(t.peli, c.summa);
         VahvistaLappu(t.peli);
-        EXPECT_EQ(t.m.Raha, c.rahaJälkeen) << c.summa;
-        EXPECT_EQ(t.m.Tili, c.tiliJälkeen) << c.summa;
+        EXPECT_EQ(std::tuple(t.m.Raha, t.m.Tili), std::tuple(c.rahaJälkeen, c.tiliJälkeen)) << c.summa;
         if (!c.viesti.empty()) { EXPECT_EQ(t.Tapahtumat().back(), "VIESTI|0|" + c.viesti + "|vastattu"); }
     }
     Pankissa t;
     t.m.Tili = 300.6f;
     t.m.Raha = 499.99f;
     NostaTalletukset(t.peli);
-    EXPECT_EQ(t.m.Raha, 799);
-    EXPECT_EQ(t.m.Tili, 0);
+    EXPECT_EQ(std::tuple(t.m.Raha, t.m.Tili), std::tuple(799, 0));
 }
 
 TEST(Bank, OpeningShowsNoSheetAndEscLeavesAFreshOne) {

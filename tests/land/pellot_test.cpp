@@ -82,8 +82,7 @@ TEST(LandTrade, SalesAreRefusedInTheirOrder) {
         MyyMaata(t.peli);
         EXPECT_EQ(Hehtaarit(t.m, c.maa), c.haNyt) << c.maa << " " << c.ha;
         EXPECT_EQ(t.m.Raha, c.viesti.empty() ? 1000 + 11500.0f * c.erä : 1000) << c.maa << " " << c.ha;
-        EXPECT_EQ(t.m.MetsääJäljellä, 60);
-        EXPECT_EQ(t.m.Liikevaihto, 0);
+        EXPECT_EQ(std::tuple(t.m.MetsääJäljellä, t.m.Liikevaihto), std::tuple(60, 0));
         const Tapahtumat odotetut = c.viesti.empty() ? Tapahtumat{"ÄÄNI|siirto"}
                                                      : Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|" + c.viesti + "|vastattu"};
         EXPECT_EQ(t.Tapahtumat(), odotetut) << c.maa << " " << c.ha;

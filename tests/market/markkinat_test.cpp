@@ -160,8 +160,7 @@ TEST(Markkinat, FirstWalkStartsFromZeroWithWiderStepsAndLeavesPastureOut) {
     for (int i = 0; i < 23; ++i) t.peli.arvonta.Jonoon(i == 4 ? 0.98 : 0.0);
     EnsimmäinenKurssi(t.peli);
     EXPECT_EQ(t.m.Kurssi[Turkki], 25);  // 49 - 24
-    EXPECT_EQ(t.m.Kurssi[Vaate], -9);
-    EXPECT_EQ(t.m.MaaKurssi[MaaJoutomaa], -250);
+    EXPECT_EQ(std::tuple(t.m.Kurssi[Vaate], t.m.MaaKurssi[MaaJoutomaa]), std::tuple(-9, -250));
 }
 
 TEST(PörssiRaportti, OutlookByTheAverageOverNineteen) {

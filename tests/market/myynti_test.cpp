@@ -82,8 +82,7 @@ TEST_F(Tuotepeli, SellingAllPaysTheCardsTotalAndThePackingPlantWhileUnderItsLimi
         MyyKaikki(t.peli);
         EXPECT_EQ((std::array<double, 4>{m.Raha, m.Liikevaihto, m.Tulo[Maito], m.Var[Maito]}),
                   (std::array<double, 4>{500, 500, 500, 0}));
-        EXPECT_EQ(m.PakkaamoTulot, c.tulot);
-        EXPECT_EQ(m.PakkaamoKäsitelty, c.käsiteltyJälkeen);
+        EXPECT_EQ(std::tuple(m.PakkaamoTulot, m.PakkaamoKäsitelty), std::tuple(c.tulot, c.käsiteltyJälkeen));
         EXPECT_EQ(r.Yhthinta + r.varasto[Maito], 0) << "the card and the shelf show the empty stock";
     }
     // Feed goes by the silo's content, leaves the plant out and draws the card anew.
@@ -92,8 +91,7 @@ TEST_F(Tuotepeli, SellingAllPaysTheCardsTotalAndThePackingPlantWhileUnderItsLimi
     m.Raha = 0;
     AvaaTuote(t.peli, Rehu);
     MyyKaikki(t.peli);
-    EXPECT_EQ(m.Raha + m.Tulo[Rehu], 2000);
-    EXPECT_EQ(m.PakkaamoKäsitelty, 100);
+    EXPECT_EQ(std::tuple(m.Raha + m.Tulo[Rehu], m.PakkaamoKäsitelty), std::tuple(2000, 100));
     EXPECT_EQ(r.Yhthinta, 5000) << "the cost of a full silo";
 }
 

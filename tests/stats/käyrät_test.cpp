@@ -63,8 +63,7 @@ TEST(Curves, TheLineIsTwoUnitsThickItsFirstSegmentFlatUnitAndStepRoundedToEven) 
     // Top 1000 over 400 units is 2.5: the unit rounds to 2, so 200 stands 100 units up.
     t.m.Käyrät.Rahatila = {" 0", " 200"};
     PiirräKäyrä(t.peli, KäyräRaha);
-    EXPECT_EQ(t.r().U, 2);
-    EXPECT_EQ(t.r().S, 300);
+    EXPECT_EQ(std::tuple(t.r().U, t.r().S), std::tuple(2, 300));
     ASSERT_EQ(t.r().janat.size(), 4u);
     const Jana odotetut[] = {{0, 400, 300, 400}, {0, 401, 300, 401}, {300, 400, 600, 300}, {300, 401, 600, 301}};
     for (std::size_t i = 0; i < 4; ++i) {
@@ -110,8 +109,7 @@ TEST(Curves, TimeAxisAndTheNetButtonAreSetAtOpening) {
         EXPECT_EQ(Aika2(static_cast<Integer>(c.vuosi)), c.aika2) << c.vuosi;
     }
     Käyrillä t;
-    EXPECT_EQ(t.r().aika1, "1.6.1980");
-    EXPECT_EQ(t.r().aika3, " 1. 6. 1980");
+    EXPECT_EQ(std::tuple(t.r().aika1, t.r().aika3), std::tuple("1.6.1980", " 1. 6. 1980"));
     EXPECT_FALSE(t.r().Command5);
     t.m.Työ[Kirjanpitäjä] = 1;
     EXPECT_FALSE(t.r().Command5) << "hiring while open changes nothing";

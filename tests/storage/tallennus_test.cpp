@@ -130,8 +130,7 @@ TEST(SaveFile, AKnownFarmIsWrittenByteForByteWithItsSeal) {
     }
     const fs::path data = t.peli.kansiot.data;
     const std::string sav = Lue(data / "Kulta.sav");
-    EXPECT_EQ(sav.substr(0, 13), "!2/6!\r\n\xC5jk\xE5\r\n");
-    EXPECT_EQ(sav, odotettu);
+    EXPECT_EQ(std::tuple(sav.substr(0, 13), sav), std::tuple("!2/6!\r\n\xC5jk\xE5\r\n", odotettu));
     clsCRC crc;
     EXPECT_EQ(Lue(data / "Kulta.fxf"), Sinetti(HeksaTeksti(crc.CalculateBytes(odotettu)), "KQTV27") + "\r\n");
     EXPECT_EQ(Lue(data / "Savetus.dat"), "Kulta\r\n");
@@ -139,8 +138,7 @@ TEST(SaveFile, AKnownFarmIsWrittenByteForByteWithItsSeal) {
 
     // The autosave leaves the last name of the continue button as it was.
     TallennaTilanne(t.peli, "Autosave");
-    EXPECT_EQ(Lue(data / "Autosave.sav"), odotettu);
-    EXPECT_EQ(Lue(data / "Savetus.dat"), "Kulta\r\n");
+    EXPECT_EQ(std::tuple(Lue(data / "Autosave.sav"), Lue(data / "Savetus.dat")), std::tuple(odotettu, "Kulta\r\n"));
 }
 
 // A random farm whose values each pass their text form unchanged.
@@ -318,8 +316,7 @@ TEST(SaveFile, ALineThatDoesNotReadIsReportedAndGoingOnReadsTheNext) {
         EXPECT_EQ(t.kanavat.viimeisinVikateksti.find("Tiedosto jota avattiin on väärän kokoinen") != std::string::npos,
                   c.numero == 62)
             << c.mikä;
-        EXPECT_EQ(t.m.Raha, c.raha) << c.mikä;
-        EXPECT_EQ(t.m.Laina, c.laina) << c.mikä;
+        EXPECT_EQ(std::tuple(t.m.Raha, t.m.Laina), std::tuple(c.raha, c.laina)) << c.mikä;
         EXPECT_FALSE(t.peli.Ladataan) << c.mikä;
     }
     // A save of another version that fails explains the versions in the failure box.
@@ -376,8 +373,7 @@ TEST(SaveFile, TheStartScreensContinueOpensTheLastSave) {
     t.peli.alku.Viime = "Eilen";
     t.Tapahtumat();
     EXPECT_TRUE(JatkaTilannetta(t.peli));
-    EXPECT_EQ(t.m.Raha, 4321);
-    EXPECT_EQ(t.m.Vuodenaika, "Syksy");
+    EXPECT_EQ(std::tuple(t.m.Raha, t.m.Vuodenaika), std::tuple(4321, "Syksy"));
     const auto& kauppa = t.peli.tarvikeruutu.kauppa;
     EXPECT_EQ(std::tuple(kauppa[Tarvikkeita].size(), kauppa[Lisälaitteet].size(), kauppa[Työkoneet].size()),
               std::tuple(std::size_t{5}, std::size_t{18}, std::size_t{6}));

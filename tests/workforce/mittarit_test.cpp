@@ -55,8 +55,7 @@ TEST(Gauges, BlankWithNobodyEmployedAndShownOnHiring) {
     Motivaatiot(t, -100);
     Motilasku(t.peli);
     Stressilasku(t.peli);
-    EXPECT_EQ(t.peli.työvoimaruutu.Moti, "");
-    EXPECT_EQ(t.peli.työvoimaruutu.Stres, "");
+    EXPECT_EQ(std::tuple(t.peli.työvoimaruutu.Moti, t.peli.työvoimaruutu.Stres), std::tuple("", ""));
     t.Valitse(Siivooja);
     OtaTöihin(t.peli);
     EXPECT_EQ(t.peli.työvoimaruutu.Moti, "Surkea!");

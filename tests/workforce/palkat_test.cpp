@@ -27,8 +27,7 @@ TEST(Choosing, TheSliderStandsAtTheWagesDifferenceHeldToItsEnd) {
         if (c.metsuriEnsin) ValitseTyöläinen(t.peli, Metsuri);
         ValitseTyöläinen(t.peli, Leipuri);
         const TyövoimaRuutuTila& r = t.peli.työvoimaruutu;
-        EXPECT_EQ(r.mittari, c.mittari) << c.palkka;
-        EXPECT_EQ(t.m.Palkka[Leipuri], c.palkkaJälkeen) << c.palkka;
+        EXPECT_EQ(std::tuple(r.mittari, t.m.Palkka[Leipuri]), std::tuple(c.mittari, c.palkkaJälkeen)) << c.palkka;
         EXPECT_EQ(r.palk, c.palkkaJälkeen);
     }
 }
@@ -72,8 +71,7 @@ TEST(WageSum, TheSliderAndHiresShowItAndGardenersAndBeekeepersAreOnLeaveInWinter
         OtaTöihin(t.peli);
         SiirräMittaria(t.peli, 250);
         EXPECT_EQ(t.m.PalkatYhteensä, c.summa) << c.vuodenaika;
-        EXPECT_EQ(t.peli.työvoimaruutu.yhtpalk, c.summa);
-        EXPECT_EQ(t.peli.työvoimaruutu.Työläisiä, 15);
+        EXPECT_EQ(std::tuple(t.peli.työvoimaruutu.yhtpalk, t.peli.työvoimaruutu.Työläisiä), std::tuple(c.summa, 15));
         EXPECT_EQ(t.m.Raha, 10000);  // a hire costs nothing
         EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|siirto"});  // the slider makes no sound
     }
