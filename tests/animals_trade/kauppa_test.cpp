@@ -11,7 +11,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 // A farm with sound effects on, a barn for 50 and a store for 1000.
 struct Tila : Testipeli {

@@ -205,8 +205,7 @@ TEST(FeedPlant, WishPercentageGrainTestLimitAndLoad) {
 }
 
 TEST(FeedPlant, ACounterPastItsWidthIsFailureSixAndTheDayGoesOn) {
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     t.m.Pelto = 10;
     t.m.Rak[Rehuntuotanto] = 1;
     t.m.Tuotanto[Rehuntuotanto] = 100;

@@ -11,7 +11,6 @@
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
 constexpr std::size_t NAVETTA = Työmaa(Navetta), SIILO = Työmaa(Siilo), VARASTO = Työmaa(Varasto);
 
 // A farm with sound on, plenty of money, some pasture and the building screen open.

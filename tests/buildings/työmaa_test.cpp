@@ -8,8 +8,6 @@
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
-
 struct Tila : testi::Testipeli {
     Tila() {
         Aloita();

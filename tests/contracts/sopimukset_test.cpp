@@ -9,7 +9,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 constexpr double VARA = 0.123;  // the spare draw after a case's own
 

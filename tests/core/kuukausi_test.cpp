@@ -14,10 +14,7 @@ namespace {
 
 using testi::Testipeli;
 
-// A farm just started at the given difficulty, Normaali unless told.
-struct Tila : testi::Testipeli {
-    explicit Tila(int taso = 1) { Aloita("Testi", taso); }
-};
+using Tila = testi::Aloitettu;
 
 // Runs the day that ends the month and returns the report's lines as "r|column|text".
 std::vector<std::string> KuunLoppu(Testipeli& t) {

@@ -11,10 +11,7 @@ namespace {
 
 using testi::Testipeli;
 
-// A farm just started at the given difficulty, Normaali unless told.
-struct Tila : testi::Testipeli {
-    explicit Tila(int taso = 1) { Aloita("Testi", taso); }
-};
+using Tila = testi::Aloitettu;
 
 TEST(DayStep, TheAccountantSellsOnTheSaleDaysOfTheSetting) {
     struct Tapaus { int rulla; std::vector<int> päivät; };

@@ -25,8 +25,7 @@ TEST(MainScreen, MoneyAndTemperatureFormats) {
 }
 
 TEST(MainScreen, GaugesAndTheirGuards) {
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     t.m.Var[Rehu] = 50;
     t.m.Var[Maito] = 150.5f;  // the load is rounded before the percentage
     t.m.El[Kana][Naaras] = 3;

@@ -8,10 +8,7 @@
 namespace tanhua {
 namespace {
 
-// A farm just started at the given difficulty, Normaali unless told.
-struct Tila : testi::Testipeli {
-    explicit Tila(int taso = 1) { Aloita("Testi", taso); }
-};
+using Tila = testi::Aloitettu;
 
 // The five draws of a day, in their order: temperature step, return to the band, cloud step,
 // thunder (0 of 12), hail (0 of 25).

@@ -8,7 +8,6 @@ namespace {
 using testi::A;
 using testi::Sattuma;
 using testi::T;
-using Tapahtumat = std::vector<std::string>;
 
 // Runs the day's step from the given draws; all of them must be taken.
 void Aja(Sattuma& t, const std::vector<double>& arvot) {

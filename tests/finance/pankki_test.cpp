@@ -10,7 +10,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 // A farm with only what the limit counts set by hand: a limit of 30 x (6 + 100 + 100) = 6180.
 struct Pankissa : Testipeli {

@@ -10,8 +10,6 @@
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
-
 struct Tila : testi::Testipeli {
     Tila() {
         Aloita();

@@ -144,8 +144,7 @@ TEST(Markkinat, CrashesAboveTheLimitBoundsBelowAndFeedHeldDownBefore1983) {
 }
 
 TEST(Markkinat, FirstWalkStartsFromZeroWithWiderStepsAndLeavesPastureOut) {
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     t.m.Kurssi.fill(50);
     t.m.MaaKurssi.fill(900);
     for (int i = 0; i < 24; ++i) t.peli.arvonta.Jonoon(0.8);
@@ -168,8 +167,7 @@ TEST(PörssiRaportti, OutlookByTheAverageOverNineteen) {
     for (const Tapaus& c : {Tapaus{17 * 19, " 17", "Huippukausi!"}, {16 * 19 + 18, " 16", "Nousukausi"},
                             {9 * 19, " 9", "Nousukausi"}, {8 * 19 + 18, " 8", "Neutraali"}, {6 * 19, " 6", "Neutraali"},
                             {5 * 19 + 18, " 5", "Laskusuhdanne"}, {19, " 1", "Laskusuhdanne"}, {-1, "-1", "Lama!"}}) {
-        testi::Testipeli t;
-        t.Aloita();
+        testi::Aloitettu t;
         t.m.Kurssi.fill(0);
         t.m.Kurssi[Leipä] = static_cast<Integer>(c.summa);  // bread has no line, but counts
         t.Tapahtumat();

@@ -10,7 +10,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 std::string Nimitiedosto(int nimiä) {
     std::string s = "Ravihevosten nimet\r\n";

@@ -10,7 +10,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 // The screen opened with sounds on: the opening's click is the only draw.
 struct Käyrillä : Testipeli {

@@ -361,8 +361,7 @@ TEST(SaveFile, AFailedWriteIsReportedAndTheOldSaveStillOpens) {
 
 // "Jatka tilannetta" opens the last save by its name; the shop lists come back without "Aura".
 TEST(SaveFile, TheStartScreensContinueOpensTheLastSave) {
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     ASSERT_EQ(t.peli.tarvikeruutu.kauppa[Työkoneet].back(), AURA);
     t.m.Tarv = {};
     t.m.Tarv[Kaivo] = true;

@@ -8,7 +8,6 @@
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
 using Rivit = std::vector<TarvikeRivinro>;
 const Rivit YLEISET{Palohälytin, Paimenpoika, Varashälytin, Energiansäästövalot, Lämminvesivaraaja, Kaivo};
 

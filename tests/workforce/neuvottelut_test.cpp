@@ -7,8 +7,6 @@
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
-
 // A farm whose stable master and cleaner are paid their base wage; the draws are counted.
 struct Neuvottelu : testi::Testipeli {
     explicit Neuvottelu(int taso = 1) {

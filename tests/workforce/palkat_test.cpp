@@ -7,7 +7,6 @@
 namespace tanhua {
 namespace {
 
-using testi::Tapahtumat;
 using testi::Testipeli;
 using testi::Tila;
 
@@ -103,8 +102,7 @@ TEST(Subsidy, TheRateByTurnoverLessAThousandAnAccountant) {
         {10500, 1, 1, 2, "Kesä", 2 * 1000}, // halved on the hardest level
     };
     for (const Tapaus& c : tapaukset) {
-        Testipeli t;
-        t.Aloita();
+        testi::Aloitettu t;
         t.m.Liikevaihto = c.liikevaihto;
         t.m.Työ[Kirjanpitäjä] = c.kirjanpitäjiä;
         t.m.Työ[Siivooja] = c.siivoojia;
@@ -124,8 +122,7 @@ TEST(Subsidy, WhoCountsAndWhoNever) {
         {Vahtikoira, "Kesä", 0},             {Viinimestari, "Kesä", 0},
     };
     for (const Tapaus& c : tapaukset) {
-        Testipeli t;
-        t.Aloita();
+        testi::Aloitettu t;
         t.m.Liikevaihto = 0;
         t.m.Vuodenaika = c.aika;
         t.m.Työ[c.k] = 10;

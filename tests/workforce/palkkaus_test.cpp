@@ -6,7 +6,6 @@
 namespace tanhua {
 namespace {
 
-using testi::Tapahtumat;
 using testi::Tila;
 
 const std::string EI_RAKENNUSTA =
