@@ -1,8 +1,10 @@
-// The arithmetic of the game: widths, rounding to even, overflow, Str and the reading of numbers.
+// The arithmetic and the draws of the game: widths, rounding to even, overflow, Str, the reading of numbers,
+// and the fixed sequence of an unseeded run behind the queue of given values.
 #include <gtest/gtest.h>
 
 #include <cmath>
 
+#include "core/arvonta.h"
 #include "core/laskenta.h"
 
 namespace tanhua {
@@ -91,6 +93,18 @@ TEST(Arithmetic, ReadingNumbersFromText) {
         EXPECT_EQ(VikaNumero([&] { TekstiLuvuksi(t.teksti); }), t.vika) << t.teksti;
     }
     EXPECT_EQ(std::tuple(TekstiLuvuksi("1.5E+2"), VikaNumero([] { TekstiTotuudeksi("kyllä"); })), std::tuple(150, 13));
+}
+
+TEST(Draws, AnUnseededRunAlwaysDrawsTheSameSequenceAfterTheQueue) {
+    Arvonta a;
+    a.Jonoon(0.25);
+    a.Jonoon(0.0);
+    EXPECT_EQ(a.r(), 0.25);
+    EXPECT_EQ(a.r(), 0.0);
+    // The generator wasn't touched by the queue.
+    EXPECT_FLOAT_EQ(a.r(), 0.7055475f);
+    EXPECT_FLOAT_EQ(a.r(), 0.5334240f);
+    EXPECT_FLOAT_EQ(a.r(), 0.5795186f);
 }
 
 }  // namespace
