@@ -2,6 +2,7 @@
 #include "Kuvat.h"
 
 // own
+#include "Kangas.h"
 #include "storage/tiedostot.h"
 // Qt
 #include <QEvent>
@@ -170,7 +171,7 @@ void NäytäKuva(const Peli& peli, QLabel* l, const std::string& kansio, const O
     l->setVisible(o.näkyvissä);
     if (!o.näkyvissä) return;
     const QPixmap kuva = KuvaJosOn(peli, kansio + o.arvo);
-    l->setPixmap(koko > 0 ? kuva.scaled(koko, koko, Qt::KeepAspectRatio, Qt::SmoothTransformation) : kuva);
+    l->setPixmap(koko > 0 ? Sovita(kuva, koko, koko) : kuva);
     if (!o.vihje.empty()) l->setToolTip(Q(o.vihje));
     l->setProperty("tiedosto", Q(o.arvo));
 }

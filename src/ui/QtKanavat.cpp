@@ -88,9 +88,10 @@ bool QtKanavat::Vikalaatikko(const std::string&, int, const std::string& teksti)
 }
 
 void QtKanavat::Kuvakaappaus() {
-    // The month's picture is the window as it stands, the report over the main screen.
+    // The month's picture is the canvas as it stands, the report over the main screen, at the canvas'
+    // own size: the margins around it are no part of the game.
     ikkuna_->pino()->setCurrentWidget(ikkuna_->raportti());
-    ikkuna_->KuukaudenvaihdeKuva = ikkuna_->grab();
+    ikkuna_->KuukaudenvaihdeKuva = ikkuna_->sisältö()->grab();
 }
 
 void QtKanavat::Lataus(const std::string& texti, int palkki) { ikkuna_->alku()->Lataus(texti, palkki); }
