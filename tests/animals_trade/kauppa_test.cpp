@@ -146,9 +146,9 @@ TEST(AnimalCards, ACardIsFoundByKeyOrTitleAndQuotesTheFarmsMeat) {
     ValitseEläin(t.peli, KorttiNimellä("Kana"));
     const EläinRuutuTila& r = t.peli.eläinruutu;
     EXPECT_EQ((std::array<long, 3>{r.liha, r.yhtosto, r.yhtmyynti}), (std::array<long, 3>{11, 500, 300}));
-    EXPECT_EQ(r.info, "Tuottaa munia noin 3 kpl/päivä, sivutuotteena vähän lantaa. Teurastaessa lihaa 11 kg. Rehunkulutus "
-                      "vain puoli kiloa päivässä. Lisäntyminen todennäköistä. Jatkojalostaessa leipomossa voi tuottaa "
-                      "leivoksia.");
+    EXPECT_EQ(r.info, "Tuottaa munia noin 3 kpl/päivä, sivutuotteena vähän lantaa. Teurastaessa lihaa 11 kg. "
+                      "Rehunkulutus vain puoli kiloa päivässä. Lisäntyminen todennäköistä. Jatkojalostaessa "
+                      "leipomossa voi tuottaa leivoksia.");
 }
 
 TEST(AnimalCards, TheLotStepsBetweenOneTenAndHundred) {

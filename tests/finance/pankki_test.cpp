@@ -1,5 +1,5 @@
-// The bank screen: the loan limit, loans, deposits, the premiums of a new farm, the sheets and Esc.
-// Repayment, the insurance sheet and the presses a player couldn't make are played in the bank scenario.
+// The bank screen: the loan limit, loans, deposits, the sheets and Esc. Repayment, the insurance sheet and
+// the presses a player couldn't make are played in the bank scenario; the new farm's premiums in the month's bill.
 #include <gtest/gtest.h>
 
 #include "finance/pankki.h"

@@ -70,13 +70,14 @@ TEST_F(Markkinapeli, TheLastCrashInTheCheckOrderNamesTheNewsAndTheDrawPicksTheSt
         {{{Maito, 6}}, {}, 2, {{MaaLaidun, 4001}}, "Laidunmaan", 0.1, ""},
         {{{Maito, 6}}, {{Maito, 0.5f}}, 0, {}, "Maidon", 0.0, ""},
         {{{Maito, 6}}, {{Maito, 0.5f}}, 0, {}, "Maidon", 0.2,
-         "Maidon hinta romahti alas. Tämä oli jo ennalta odotettua liian korkean hinnan suhteen arvioivat asiantuntijat."},
+         "Maidon hinta romahti alas. Tämä oli jo ennalta odotettua liian korkean hinnan suhteen arvioivat "
+         "asiantuntijat."},
         {{{Maito, 6}}, {{Maito, 0.5f}}, 0, {}, "Maidon", 0.6,
          "Kurssit laskivat roimasti. Maidon hinta teki tänään roiman laskun pörssissä. Maatalous saattaa kärsiä tästä, "
          "mutta ostajat ovat tyytyväisiä."},
         {{{Maito, 6}}, {{Maito, 0.5f}}, 0, {}, "Maidon", 0.99,
-         "Suuri kurssiromahdus tänään. Maidon kurssi tipahti alas tänään iltapäivällä. Maatilanyrittäjät ovat huolissaan "
-         "tulevaisuudestaan."},
+         "Suuri kurssiromahdus tänään. Maidon kurssi tipahti alas tänään iltapäivällä. Maatilanyrittäjät ovat "
+         "huolissaan tulevaisuudestaan."},
     };
     for (const Tapaus& c : tapaukset) {
         t.m.Kurssi.fill(0), t.m.MaaKurssi.fill(0), t.m.Var.fill(0);
