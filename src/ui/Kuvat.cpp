@@ -24,6 +24,8 @@ QString Q(const std::string& s) { return QString::fromStdString(s); }
 std::string S(const QString& s) { return s.toStdString(); }
 
 namespace {
+constexpr qreal KUVIEN_PIKSELISUHDE = 2;
+
 QHash<QString, QPixmap>& Välimuisti() {
     static QHash<QString, QPixmap> kuvat;
     return kuvat;
@@ -38,6 +40,9 @@ QPixmap Kuva(const Peli& peli, const std::string& polku) {
     if (auto it = kuvat.find(avain); it != kuvat.end()) return *it;
     QPixmap kuva(avain);
     if (kuva.isNull()) NostaVika(VIKA_TIEDOSTONIMI);
+    // The program folder's pictures are drawn at two pixels a unit of the canvas: a picture keeps its
+    // size on the screens and has the pixels to stay sharp when the canvas is scaled up.
+    kuva.setDevicePixelRatio(KUVIEN_PIKSELISUHDE);
     kuvat.insert(avain, kuva);
     return kuva;
 }

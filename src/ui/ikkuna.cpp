@@ -39,7 +39,7 @@ ikkuna::ikkuna(Peli& peli, QWidget* vanhempi) : QFrame(vanhempi), peli_(peli) {
 void ikkuna::AsetaKuva(const std::string& kuva) {
     // An event without a picture of its own shows the blank picture.
     const QPixmap p = kuva.empty() ? QPixmap() : Kuva(peli_, kuva);
-    kuva_->setPixmap(p.isNull() ? QPixmap() : p.scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    kuva_->setPixmap(p.isNull() ? QPixmap() : Sovita(p, 400, 300));
     kuva_->setProperty("tiedosto", Q(std::filesystem::path(kuva).filename().string()));
     näytettyKuva_ = kuva;
 }
