@@ -138,8 +138,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaKäyrät = [this] { AvaaRuutu(käyrät_); };
     ravit_->Suljettu = [this] {
         if (raviPaluu_) {
-            pino_->setCurrentWidget(raviPaluu_);
-            Päivitä();
+            TaitaToiseen(ravit_, raviPaluu_);
         } else {
             PalaaPääruutuun();
         }
@@ -371,8 +370,23 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
 void Pääikkuna::AvaaRavit(QWidget* paluu) {
     raviPaluu_ = paluu;
     Toimi([this] { tanhua::AvaaRavit(peli_); });
-    pino_->setCurrentWidget(ravit_);
+    TaitaToiseen(pino_->currentWidget(), ravit_);
+}
+
+void Pääikkuna::TaitaToiseen(QWidget* pois, QWidget* esiin) {
+    // Each form is back at its own size when its fold ends; the main form pauses as it does when
+    // it folds for any screen.
+    const QRect sivu = pois->geometry();
+    pois->setEnabled(false);
+    Taita(pois, KuvanPienennys(peli_, sivu.height(), sivu.y(), pois == tanhua_ ? Lomake::Pääruutu : Lomake::Alaruutu));
+    pois->setGeometry(sivu);
+    pois->setEnabled(pois != tanhua_ || peli_.näkymä.PääruutuKäytössä);
+    pino_->setCurrentWidget(esiin);
     Päivitä();
+    esiin->setEnabled(false);
+    Taita(esiin, KuvanSuurennus(peli_, sivu.height(), sivu.y(), Lomake::Alaruutu));
+    esiin->setGeometry(sivu);
+    esiin->setEnabled(true);
 }
 
 void Pääikkuna::PalautaKohdistus(QWidget* ennen) {

@@ -121,6 +121,8 @@ private:
     void MittakaavaMuuttui();
     // A screen folding to its middle line (or opening from it) by the rounds the rules give.
     void Taita(QWidget* lomake, const Taitto& taitto);
+    // One screen folds away and the next opens from its middle line (the stable and the races).
+    void TaitaToiseen(QWidget* pois, QWidget* esiin);
 
     Peli& peli_;
     QWidget* sisältö_;
