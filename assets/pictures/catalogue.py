@@ -2,6 +2,7 @@
 
 PICTURES maps a path such as "Kuvat/tuotteet/maito.jpg" to a function that returns a Pillow image (or, for an
 icon file, a list of images of different sizes). The scenery comes from scene.py, surfaces from textures.py.
+Every position and size here is in units (see scene.py); what Pillow draws directly goes through px().
 """
 import math
 import os
@@ -11,7 +12,7 @@ from PIL import Image, ImageDraw, ImageFont
 
 import scene as S
 import textures as T
-from scene import Canvas, icon
+from scene import Canvas, icon, px
 
 PICTURES = {}
 
@@ -19,8 +20,20 @@ FONT_DIR = "/usr/share/fonts/truetype/dejavu"
 
 
 def font(size, bold=True, serif=False):
+    """A DejaVu font of `size` units."""
     name = ("DejaVuSerif" if serif else "DejaVuSans") + ("-Bold" if bold else "") + ".ttf"
-    return ImageFont.truetype(os.path.join(FONT_DIR, name), size)
+    return ImageFont.truetype(os.path.join(FONT_DIR, name), px(size))
+
+
+def text(draw, x, y, words, size, fill, bold=True, serif=False, stroke=0, stroke_fill=None):
+    """Words centred on the point (x, y) in a DejaVu font of `size` units, with an outline `stroke` units wide."""
+    draw.text((px(x), px(y)), words, font=font(size, bold, serif), fill=fill, anchor="mm",
+              stroke_width=px(stroke), stroke_fill=stroke_fill)
+
+
+def blank(w, h, colour):
+    """A picture of one colour, w x h units."""
+    return Image.new("RGB", (px(w), px(h)), colour)
 
 
 def pic(path):
@@ -655,14 +668,12 @@ def newspaper():
     c.add(icon("chart-decreasing", 138, 150, 86))
     top = c.render()
     base = over(img, top)
-    f1 = font(24, serif=True)
-    f2 = font(16)
-    mast = Image.new("RGBA", (EW, EH), (0, 0, 0, 0))
+    mast = Image.new("RGBA", (px(EW), px(EH)), (0, 0, 0, 0))
     md = ImageDraw.Draw(mast)
-    md.text((196, 50), "MAASEUDUN SANOMAT", font=font(18, serif=True), fill=(30, 30, 30), anchor="mm")
-    md.text((196, 102), "KURSSI ROMAHTI!", font=f1, fill=(170, 30, 30), anchor="mm")
-    md.text((196, 134), "Hinnat laskussa", font=f2, fill=(40, 40, 40), anchor="mm")
-    mast = mast.rotate(4, resample=Image.BICUBIC, center=(200, 150))
+    text(md, 196, 50, "MAASEUDUN SANOMAT", 18, (30, 30, 30), serif=True)
+    text(md, 196, 102, "KURSSI ROMAHTI!", 24, (170, 30, 30), serif=True)
+    text(md, 196, 134, "Hinnat laskussa", 16, (40, 40, 40))
+    mast = mast.rotate(4, resample=Image.BICUBIC, center=(px(200), px(150)))
     base.alpha_composite(mast)
     return base
 
@@ -763,8 +774,8 @@ def activists():
           S.icon_on_ground("rooster", 370, 250, 44, flip=True))
     img = c.render()
     d = ImageDraw.Draw(img)
-    d.rectangle([143, 143, 206, 169], fill=(205, 201, 212))
-    d.text((175, 157), "VAPAUS!", font=font(12), fill=(160, 30, 30), anchor="mm")
+    d.rectangle([px(143), px(143), px(207) - 1, px(170) - 1], fill=(205, 201, 212))
+    text(d, 175, 157, "VAPAUS!", 12, (160, 30, 30))
     return img
 
 
@@ -966,12 +977,16 @@ def cottage():
 def storehouse():
     img = T.wood(W, H, 41, light=(196, 150, 100), dark=(130, 88, 52), boards=1, vertical=True, rings=40)
     d = ImageDraw.Draw(img)
+
+    def band(x1, y1, x2, y2, colour):  # the units x1..x2, y1..y2, both ends in
+        d.rectangle([px(x1), px(y1), px(x2 + 1) - 1, px(y2 + 1) - 1], fill=colour)
+
     for x in range(0, W, 128):
-        d.rectangle([x, 0, x + 3, H], fill=(90, 58, 30))
-        d.line([x + 4, 0, x + 4, H], fill=(222, 184, 135))
-    d.rectangle([0, 70, W, 96], fill=(110, 72, 40))
-    d.rectangle([0, 96, W, 100], fill=(70, 45, 22))
-    d.rectangle([0, 700, W, H], fill=(100, 66, 36))
+        band(x, 0, x + 3, H, (90, 58, 30))
+        band(x + 4, 0, x + 4, H, (222, 184, 135))
+    band(0, 70, W, 96, (110, 72, 40))
+    band(0, 96, W, 100, (70, 45, 22))
+    band(0, 700, W, H, (100, 66, 36))
     c = Canvas(W, H)
     c.add(S.vignette(W, H, 0.45))
     c.add(S.window(440, 130, 140, 110, frame="#e9dfc8"))
@@ -1025,8 +1040,8 @@ def book():
     img = T.to_image(arr)
     pg = T.paper(470, 700, 62)
     pg2 = T.paper(470, 700, 63)
-    img.paste(pg, (40, 34))
-    img.paste(pg2.transpose(Image.Transpose.FLIP_LEFT_RIGHT), (514, 34))
+    img.paste(pg, (px(40), px(34)))
+    img.paste(pg2.transpose(Image.Transpose.FLIP_LEFT_RIGHT), (px(514), px(34)))
     c = Canvas(W, H)
     gid, d = S.lin_grad([(0, "#000000", 0), (0.8, "#000000", 0.22), (1, "#000000", 0.4)], x1=0, y1=0, x2=1, y2=0)
     c.add(d, f'<rect x="430" y="34" width="82" height="700" fill="url(#{gid})"/>')
@@ -1180,7 +1195,7 @@ def light_backdrop(n):
     if n == 4:
         return T.paper(W, H, 121)
     img = T.birch_bark(W, H, 122, per_mark=5000)
-    return Image.blend(img, Image.new("RGB", (W, H), (250, 248, 242)), 0.35)
+    return Image.blend(img, blank(W, H, (250, 248, 242)), 0.35)
 
 
 for _n in range(1, 6):
@@ -1241,7 +1256,7 @@ pic("Kuvat/peltosumu2.jpg")(lambda: misty_field(2))
 
 pic("Kuvat/nappi.jpg")(lambda: T.bevel(T.wood(256, 64, 160, light=(236, 206, 160), dark=(196, 152, 100), rings=6), 3))
 pic("Kuvat/nappi2.jpg")(lambda: T.bevel(T.paper(256, 64, 161, base=(246, 238, 216), spot=(226, 210, 170)), 3, 60, 50))
-pic("Kuvat/nappi3.jpg")(lambda: T.bevel(Image.blend(T.birch_bark(256, 64, 162, per_mark=2500), Image.new("RGB", (256, 64), (240, 238, 230)), 0.6),
+pic("Kuvat/nappi3.jpg")(lambda: T.bevel(Image.blend(T.birch_bark(256, 64, 162, per_mark=2500), blank(256, 64, (240, 238, 230)), 0.6),
                                        3, 40, 60))
 pic("Kuvat/rahakyltti.jpg")(lambda: T.brass(320, 80, 170))
 
@@ -1270,21 +1285,18 @@ def logo():
     c.add('<rect width="420" height="320" fill="#ffffff"/>')
     emblem(c, 210, 130, 100)
     img = c.render()
-    d = ImageDraw.Draw(img)
-    d.text((210, 278), "TANHUA", font=font(50, serif=True), fill=(110, 40, 24), anchor="mm",
-           stroke_width=1, stroke_fill=(60, 20, 10))
+    text(ImageDraw.Draw(img), 210, 278, "TANHUA", 50, (110, 40, 24), serif=True, stroke=1, stroke_fill=(60, 20, 10))
     return img
 
 
 @pic("Kuvat/software.jpg")
 def wordmark():
-    img = Image.new("RGB", (400, 90), (255, 255, 255))
+    img = blank(400, 90, (255, 255, 255))
     c = Canvas(400, 90)
     c.add(icon("sheaf-of-rice", 10, 16, 58), icon("sheaf-of-rice", 332, 16, 58, flip=True))
     c.add('<path d="M80,70 h240" stroke="#b88a2c" stroke-width="3"/>')
     img = over(img, c.render())
-    d = ImageDraw.Draw(img)
-    d.text((200, 40), "maatilapeli", font=font(38, serif=True, bold=False), fill=(60, 90, 40), anchor="mm")
+    text(ImageDraw.Draw(img), 200, 40, "maatilapeli", 38, (60, 90, 40), serif=True, bold=False)
     return img
 
 
@@ -1296,8 +1308,8 @@ def makers_plate():
     emblem(c, 52, 55, 36)
     img = over(img, c.render())
     d = ImageDraw.Draw(img)
-    d.text((190, 40), "TANHUA", font=font(34, serif=True), fill=(70, 30, 14), anchor="mm")
-    d.text((190, 76), "suomalainen maatilapeli", font=font(14, bold=False), fill=(60, 34, 18), anchor="mm")
+    text(d, 190, 40, "TANHUA", 34, (70, 30, 14), serif=True)
+    text(d, 190, 76, "suomalainen maatilapeli", 14, (60, 34, 18), bold=False)
     return img
 
 

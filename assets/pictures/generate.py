@@ -17,7 +17,12 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, HERE)
 
 import catalogue  # noqa: E402
+import numpy as np  # noqa: E402
 from PIL import Image  # noqa: E402
+
+# The pictures are shown at two pixels a unit, so a JPEG's blocks are half the size on the screen that they
+# would be at one: quality 85 looks as clean as 90 did, and keeps the program folder's size down.
+JPEG_QUALITY = 85
 
 
 def read_manifest():
@@ -39,11 +44,9 @@ def save_gif(img, path):
         alpha = img.split()[3]
         rgb = flatten(img, (250, 246, 236))
         pal = rgb.quantize(colors=255, method=Image.Quantize.MEDIANCUT, dither=Image.Dither.NONE)
-        data = bytearray(pal.tobytes())
-        for i, a in enumerate(alpha.tobytes()):
-            if a < 128:
-                data[i] = 255
-        out = Image.frombytes("P", img.size, bytes(data))
+        data = np.asarray(pal).copy()
+        data[np.asarray(alpha) < 128] = 255
+        out = Image.fromarray(data, "P")
         palette = pal.getpalette()[: 255 * 3]
         palette += [0] * (255 * 3 - len(palette)) + [255, 0, 255]
         out.putpalette(palette)
@@ -57,23 +60,15 @@ def save_gif(img, path):
 def ico_entry(img):
     """One image of a Windows icon file: a 32-bit BGRA bitmap, bottom-up, with its 1-bit AND mask."""
     w, h = img.size
-    rgba = img.convert("RGBA")
-    px = rgba.load()
-    xor = bytearray()
-    for y in range(h - 1, -1, -1):
-        for x in range(w):
-            r, g, b, a = px[x, y]
-            xor += bytes((b, g, r, a))
+    rgba = np.asarray(img.convert("RGBA"))[::-1]
+    xor = rgba[..., [2, 1, 0, 3]].tobytes()
+    # the AND mask: a bit a pixel, set where the picture is clear, each row padded to whole 32-bit words
     row = ((w + 31) // 32) * 4
-    mask = bytearray()
-    for y in range(h - 1, -1, -1):
-        bits = bytearray(row)
-        for x in range(w):
-            if px[x, y][3] < 128:
-                bits[x // 8] |= 0x80 >> (x % 8)
-        mask += bits
+    clear = np.zeros((h, row * 8), np.uint8)
+    clear[:, :w] = rgba[..., 3] < 128
+    mask = np.packbits(clear, axis=1).tobytes()
     header = struct.pack("<IiiHHIIiiII", 40, w, h * 2, 1, 32, 0, len(xor) + len(mask), 0, 0, 0, 0)
-    return header + bytes(xor) + bytes(mask)
+    return header + xor + mask
 
 
 def save_ico(images, path):
@@ -99,7 +94,7 @@ def build_one(args):
     tmp = path + ".tmp"
     ext = rel.rsplit(".", 1)[1].lower()
     if ext == "jpg":
-        flatten(result).save(tmp, "JPEG", quality=90)
+        flatten(result).save(tmp, "JPEG", quality=JPEG_QUALITY, optimize=True)
     elif ext == "gif":
         save_gif(result, tmp)
     elif ext == "ico":

@@ -3,21 +3,34 @@
 Every function returns SVG markup as text. A picture is a Canvas: pieces are added in painting order and the
 canvas renders to a Pillow image through cairosvg. Random shapes come from random.Random(seed), so the same
 sources always give the same pictures.
+
+Pictures are drawn in units, the size at which the game lays them out (a backdrop is 1024 x 768 units), and
+rendered at SCALE pixels a unit: the game shows them at that device pixel ratio, so they stay sharp on a window
+scaled up. Every line width, font size and noise scale is given in units and so grows with the pixels.
 """
-import io
 import math
 import os
 import random
 import re
 
-import cairosvg
+import numpy as np
+from cairosvg.parser import Tree
+from cairosvg.surface import PNGSurface
 from PIL import Image
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 ICON_DIR = os.path.join(HERE, "icons")
 
+# Pixels a unit of every picture of the program folder.
+SCALE = 2
+
 _icon_cache = {}
 _uid = [0]
+
+
+def px(units):
+    """A length in units as whole pixels."""
+    return int(round(units * SCALE))
 
 
 def uid(stem="g"):
@@ -111,6 +124,8 @@ def rad_grad(stops, cx=0.5, cy=0.5, r=0.5):
 # ---------------------------------------------------------------- canvas
 
 class Canvas:
+    """A picture of w x h units, rendered at SCALE pixels a unit."""
+
     def __init__(self, w, h):
         self.w, self.h = w, h
         self.parts = []
@@ -125,9 +140,17 @@ class Canvas:
                 + "".join(self.parts) + "</svg>")
 
     def render(self):
-        png = cairosvg.svg2png(bytestring=self.svg().encode("utf-8"),
-                               output_width=self.w, output_height=self.h)
-        return Image.open(io.BytesIO(png)).convert("RGBA")
+        # Drawn straight into a cairo image and read from its memory: encoding a PNG only to decode it again
+        # costs more than the drawing at the size of a backdrop.
+        tree = Tree(bytestring=self.svg().encode("utf-8"))
+        surface = PNGSurface(tree, None, 96, output_width=px(self.w), output_height=px(self.h))
+        image = surface.cairo
+        image.flush()
+        size = (image.get_width(), image.get_height())
+        # cairo keeps each pixel as a native-endian 32-bit ARGB word with premultiplied alpha: as little-endian
+        # words its bytes are B, G, R, A
+        words = np.frombuffer(image.get_data(), "=u4").astype("<u4", copy=True)
+        return Image.frombuffer("RGBA", size, words.tobytes(), "raw", "BGRa", image.get_stride(), 1)
 
 
 # ---------------------------------------------------------------- landscape

@@ -1,19 +1,27 @@
-"""Surface textures for Tanhua's pictures: wood, paper, brass, made from seeded noise with numpy and Pillow."""
+"""Surface textures for Tanhua's pictures: wood, paper, brass, made from seeded noise with numpy and Pillow.
+
+Sizes, cells and widths are in units (see scene.py); the textures come out at SCALE pixels a unit. The random
+grids depend on the units only, so a texture is the same at any scale, with finer pixels.
+"""
 import numpy as np
 from PIL import Image, ImageDraw, ImageFilter
 
+from scene import SCALE, px
+
 
 def noise(w, h, cell, seed, octaves=3):
-    """Smooth value noise in [0, 1]: random grids of growing fineness, scaled up bicubically and summed."""
+    """Smooth value noise in [0, 1] over w x h units: random grids of growing fineness, scaled up bicubically to
+    the pixels and summed."""
     rng = np.random.default_rng(seed)
-    total = np.zeros((h, w), np.float32)
+    pw, ph = px(w), px(h)
+    total = np.zeros((ph, pw), np.float32)
     amp, norm = 1.0, 0.0
     for o in range(octaves):
         c = max(1, cell // (2 ** o))
         gw, gh = w // c + 3, h // c + 3
         grid = (rng.random((gh, gw)) * 255).astype(np.uint8)
-        big = Image.fromarray(grid).resize((gw * c, gh * c), Image.BICUBIC)
-        total += np.asarray(big, np.float32)[:h, :w] / 255.0 * amp
+        big = Image.fromarray(grid).resize((px(gw * c), px(gh * c)), Image.BICUBIC)
+        total += np.asarray(big, np.float32)[:ph, :pw] / 255.0 * amp
         norm += amp
         amp *= 0.5
     return total / norm
@@ -36,27 +44,29 @@ def wood(w, h, seed, light=(222, 184, 135), dark=(168, 118, 70), boards=1, verti
     """Planed wood with long grain along the board; boards > 1 draws that many boards with dark seams."""
     if vertical:
         return wood(h, w, seed, light, dark, boards, False, rings).transpose(Image.Transpose.ROTATE_90)
-    y = np.arange(h, dtype=np.float32)[:, None] / h
-    x = np.arange(w, dtype=np.float32)[None, :] / w
+    pw, ph = px(w), px(h)
+    y = np.arange(ph, dtype=np.float32)[:, None] / ph
+    x = np.arange(pw, dtype=np.float32)[None, :] / pw
     # grain runs along the board: the noise that bends it changes slowly along x and faster across
     sw = max(8, w // 10)
     slow = np.asarray(Image.fromarray((noise(sw, h, max(4, h // 5), seed, 3) * 255).astype(np.uint8))
-                      .resize((w, h), Image.BICUBIC), np.float32) / 255
+                      .resize((pw, ph), Image.BICUBIC), np.float32) / 255
     warp = slow * 1.2 + noise(w, h, max(4, w // 30), seed + 1, 2) * 0.12
     board_h = 1.0 / boards
     phase = (y % board_h) / board_h
     grain = np.sin((phase * rings + warp * 3.0 + x * 0.6) * np.pi * 2)
     fine = noise(w, h, 3, seed + 2, 1)
     streak = np.asarray(Image.fromarray((noise(max(2, w // 16), h, 1, seed + 3, 1) * 255).astype(np.uint8))
-                        .resize((w, h), Image.BILINEAR), np.float32) / 255
+                        .resize((pw, ph), Image.BILINEAR), np.float32) / 255
     v = 0.55 + 0.25 * grain + 0.12 * (fine - 0.5) + 0.08 * (streak - 0.5)
     v = np.clip(v, 0, 1)
     arr = ramp(1 - v, [(0, light), (1, dark)])
     if boards > 1:
+        # a seam: two units of shadow, then one of light on the edge of the next board
         for b in range(1, boards):
-            yy = int(b * h / boards)
-            arr[max(0, yy - 1):yy + 1] *= 0.55
-            arr[yy + 1:yy + 2] *= 1.08
+            yy = px(int(b * h / boards))
+            arr[max(0, yy - SCALE):yy + SCALE] *= 0.55
+            arr[yy + SCALE:yy + 2 * SCALE] *= 1.08
     return to_image(arr)
 
 
@@ -66,8 +76,9 @@ def paper(w, h, seed, base=(243, 232, 205), spot=(222, 203, 160)):
     fib = noise(w, h, 2, seed + 7, 1)
     v = 0.7 * blot + 0.3 * fib
     arr = ramp(np.clip((v - 0.3) * 1.6, 0, 1), [(0, base), (1, spot)])
-    yy, xx = np.mgrid[0:h, 0:w].astype(np.float32)
-    d = np.minimum(np.minimum(xx, w - 1 - xx) / w, np.minimum(yy, h - 1 - yy) / h)
+    pw, ph = px(w), px(h)
+    yy, xx = np.mgrid[0:ph, 0:pw].astype(np.float32)
+    d = np.minimum(np.minimum(xx, pw - 1 - xx) / pw, np.minimum(yy, ph - 1 - yy) / ph)
     edge = np.clip(1 - d / 0.08, 0, 1)[..., None]
     arr = arr * (1 - 0.18 * edge)
     return to_image(arr)
@@ -76,25 +87,29 @@ def paper(w, h, seed, base=(243, 232, 205), spot=(222, 203, 160)):
 def brass(w, h, seed):
     """A brushed brass plate with a bevelled edge and four screws."""
     streak = noise(w, h, 2, seed, 1)
-    yy = np.arange(h, dtype=np.float32)[:, None] / h
+    ph = px(h)
+    yy = np.arange(ph, dtype=np.float32)[:, None] / ph
     sheen = 0.55 + 0.35 * np.cos((yy - 0.35) * np.pi * 1.6) + 0.1 * (streak - 0.5)
     arr = ramp(np.clip(sheen, 0, 1), [(0, (120, 84, 30)), (0.5, (196, 152, 70)), (1, (248, 221, 150))])
     img = to_image(arr)
     d = ImageDraw.Draw(img)
     b = max(2, h // 16)
-    d.rectangle([0, 0, w - 1, h - 1], outline=(92, 62, 22), width=b)
-    d.rectangle([b, b, w - 1 - b, h - 1 - b], outline=(250, 230, 170), width=1)
+    # the plate is laid out in units; the pixel box of a unit span [a, b] is [a * SCALE, (b + 1) * SCALE - 1]
+    d.rectangle([0, 0, px(w) - 1, px(h) - 1], outline=(92, 62, 22), width=px(b))
+    d.rectangle([px(b), px(b), px(w - b) - 1, px(h - b) - 1], outline=(250, 230, 170), width=SCALE)
     r = max(2, h // 14)
     for cx, cy in ((b * 3, b * 3), (w - b * 3, b * 3), (b * 3, h - b * 3), (w - b * 3, h - b * 3)):
-        d.ellipse([cx - r, cy - r, cx + r, cy + r], fill=(150, 110, 45), outline=(90, 60, 20))
-        d.line([cx - r + 1, cy, cx + r - 1, cy], fill=(80, 55, 20), width=1)
+        d.ellipse([px(cx - r), px(cy - r), px(cx + r + 1) - 1, px(cy + r + 1) - 1], fill=(150, 110, 45),
+                  outline=(90, 60, 20), width=SCALE)
+        d.rectangle([px(cx - r + 1), px(cy), px(cx + r) - 1, px(cy + 1) - 1], fill=(80, 55, 20))
     return img
 
 
 def bevel(img, depth=3, light=70, dark=70):
-    """Raise the picture like a button: a light top-left edge and a dark bottom-right edge."""
+    """Raise the picture like a button: a light top-left edge and a dark bottom-right edge, depth units wide."""
     arr = np.asarray(img.convert("RGB"), np.float32).copy()
     h, w = arr.shape[:2]
+    depth = px(depth)
     for i in range(depth):
         f = 1 - i / depth
         arr[i, i:w - i] += light * f
@@ -115,5 +130,6 @@ def birch_bark(w, h, seed, per_mark=900):
         x, y = rng.integers(0, w), rng.integers(0, h)
         L = int(rng.integers(4, max(6, w // 10)))
         t = int(rng.integers(1, 3))
-        d.line([x, y, x + L, y], fill=tuple(int(v) for v in rng.integers(40, 90, 3)), width=t)
+        # a mark t units thick, its top edge on the unit row y
+        d.rectangle([px(x), px(y), px(x + L + 1) - 1, px(y + t) - 1], fill=tuple(int(v) for v in rng.integers(40, 90, 3)))
     return img.filter(ImageFilter.SMOOTH)

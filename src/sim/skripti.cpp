@@ -134,6 +134,12 @@ void Ajuri::Päivät(const std::vector<std::string>& sanat) {
     VaadiTila("days");
     const long long n = Luku(sanat[1], "N", 0, 1000000);
     for (long long i = 0; i < n; ++i) {
+        // A career that has ended leaves the story, then the lists, over the hidden main screen:
+        // "Seuraava päivä" can't be pressed now or on any later press of the same command.
+        if (peli_->tilanneruutu.Päättynyt) {
+            kanavat_.tapahtumat.push_back("OHITETTU|SeuraavaPäivä");
+            return;
+        }
         SeuraavaPäivä(*peli_);
         SuljeAvoinRaportti();
     }

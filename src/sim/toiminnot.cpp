@@ -140,7 +140,6 @@ const Toimintoluettelo& Toiminnot() {
          }}},
         {"Alku.NostaVaikeustasoa", Aloitusruudun(NostaVaikeustasoa)},
         {"Alku.LaskeVaikeustasoa", Aloitusruudun(LaskeVaikeustasoa)},
-        {"Tilanne.UusiTilanne", Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) { UusiTilanne(peli); }}},
         };
         EläintenToiminnot(t);
         EläinkaupanToiminnot(t);

@@ -35,6 +35,8 @@ void RavienToiminnot(Toimintoluettelo& t) {
     t["Ravit.Avaa"] = Pelkkä(AvaaRavit);
     t["Ravit.Command1"] = Nappi("Ravit.Command1", SuljeRavit);
     t["Ravit.Command2"] = Nappi("Ravit.Command2", LyöVetoa);
+    // The screen has no Command3: its name is taken, and a press on it is one no player can make.
+    t["Ravit.Command3"] = Toiminto{0, 0, [](Peli&, const std::vector<std::string>&) { Ohita(); }};
     t["Ravit.Command4"] = Nappi("Ravit.Command4", HyväksyKuponki);
     t["Ravit.Command5"] = Nappi("Ravit.Command5", [](Peli& p) { ValitseVetolaji(p, vetolaji::V75); });
     t["Ravit.Command6"] = Nappi("Ravit.Command6", LaskePanosta);

@@ -1,5 +1,6 @@
 // The runner's operations of the Tilanne screen (the score, the save panel, retirement and the
-// story), of the top-ten screen, and the start screen's "Jatka tilannetta".
+// story), of the top-ten screen, and the start screen's "Jatka tilannetta". The screen's presses
+// need it showing, as only the main screen's Tilanne button reaches them.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -15,9 +16,25 @@ namespace tanhua {
 
 namespace {
 
+// A control of the Tilanne screen is there to press only while the screen shows, and then only
+// when it is in sight and on (the panel's buttons while the panel is open, none but the story's own
+// Sulje while the story shows).
+void Tilanteessa(const Peli& peli, const std::string& ohjain) {
+    if (!peli.tilanneruutu.auki) Ohita();
+    VaadiPainettava(peli, ohjain);
+}
+
+Toiminto TilanteenNappi(const char* ohjain, void (*f)(Peli&)) {
+    return Toiminto{0, 0, [ohjain, f](Peli& peli, const std::vector<std::string>&) {
+                        Tilanteessa(peli, ohjain);
+                        f(peli);
+                    }};
+}
+
 // A button of the panel with the name typed into Kohde first; none leaves the box empty.
-Toiminto NimelläNappi(bool (*nappi)(Peli&)) {
-    return Toiminto{0, 1, [nappi](Peli& peli, const std::vector<std::string>& a) {
+Toiminto NimelläNappi(const char* ohjain, bool (*nappi)(Peli&)) {
+    return Toiminto{0, 1, [ohjain, nappi](Peli& peli, const std::vector<std::string>& a) {
+                        Tilanteessa(peli, ohjain);
                         peli.tilanneruutu.Kohde = a.empty() ? std::string() : a[0];
                         nappi(peli);
                     }};
@@ -35,12 +52,14 @@ Toiminto ToptenNappi(const char* ohjain, void (*f)(Peli&)) {
 }  // namespace
 
 void TilanteenToiminnot(Toimintoluettelo& t) {
-    t["Tilanne.Tallenna"] = NimelläNappi(TallennaNappi);
-    t["Tilanne.AvaaTilanne"] = NimelläNappi(AvaaNappi);
-    t["Tilanne.Poista"] = NimelläNappi([](Peli& peli) {
+    t["Tilanne.Tallenna"] = NimelläNappi("Tilanne.Command5", TallennaNappi);
+    t["Tilanne.AvaaTilanne"] = NimelläNappi("Tilanne.Command6", AvaaNappi);
+    t["Tilanne.Poista"] = NimelläNappi("Tilanne.Poista", [](Peli& peli) {
         PoistaTilanne(peli);
         return true;
     });
+    // Command10 "Uusi tilanne": asks, then the farm is given up for the start screen.
+    t["Tilanne.UusiTilanne"] = TilanteenNappi("Tilanne.Command10", [](Peli& peli) { UusiTilanne(peli); });
     Toiminto jatka = Pelkkä([](Peli& peli) { JatkaTilannetta(peli); });
     jatka.tilaton = true;
     t["JatkaTilannetta"] = jatka;
@@ -51,22 +70,25 @@ void TilanteenToiminnot(Toimintoluettelo& t) {
                                      AvaaAlaruutu(peli, [&] { AvaaTilanneRuutu(peli); });
                                  }};
     t["Tilanne.Sulje"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
-                                      VaadiPainettava(peli, "Tilanne.Command3");
+                                      Tilanteessa(peli, "Tilanne.Command3");
                                       if (SuljeTilanneRuutu(peli)) PalaaPääruutuun(peli);
                                   }};
-    t["Tilanne.Esc"] = EscNäppäin(TilanneEsc);
-    t["Tilanne.AvaaTallenna"] = Painallus("Tilanne.Command1", AvaaPaneeli);
-    t["Tilanne.SuljePaneeli"] = Painallus("Tilanne.Command2", SuljePaneeli);
+    t["Tilanne.Esc"] = Toiminto{0, 0, [](Peli& peli, const std::vector<std::string>&) {
+                                    if (!peli.tilanneruutu.auki) Ohita();
+                                    if (TilanneEsc(peli)) PalaaPääruutuun(peli);
+                                }};
+    t["Tilanne.AvaaTallenna"] = TilanteenNappi("Tilanne.Command1", AvaaPaneeli);
+    t["Tilanne.SuljePaneeli"] = TilanteenNappi("Tilanne.Command2", SuljePaneeli);
     // A click on a file of the panel's list; a file not listed can't be clicked.
     t["Tilanne.ValitseTiedosto"] = Toiminto{1, 1, [](Peli& peli, const std::vector<std::string>& a) {
-                                                VaadiPainettava(peli, "Tilanne.File1");
+                                                Tilanteessa(peli, "Tilanne.File1");
                                                 const auto& lista = peli.tilanneruutu.Tiedostot;
                                                 if (std::find(lista.begin(), lista.end(), a[0]) == lista.end()) Ohita();
                                                 ValitseTiedosto(peli, a[0]);
                                             }};
-    t["Tilanne.JääEläkkeelle"] = Painallus("Tilanne.Command4", JääEläkkeelle);
-    t["Tilanne.SuljeTarina"] = Painallus("Tilanne.TarinaSulje", SuljeTarina);
-    t["Tilanne.EnnätysListat"] = Painallus("Tilanne.Command8", EnnätysListat);
+    t["Tilanne.JääEläkkeelle"] = TilanteenNappi("Tilanne.Command4", JääEläkkeelle);
+    t["Tilanne.SuljeTarina"] = TilanteenNappi("Tilanne.TarinaSulje", SuljeTarina);
+    t["Tilanne.EnnätysListat"] = TilanteenNappi("Tilanne.Command8", EnnätysListat);
     t["Topten.Sulje"] = ToptenNappi("Topten.Command1", SuljeTopten);
     t["Topten.TyhjennäListat"] = ToptenNappi("Topten.Command2", TyhjennäListat);
 

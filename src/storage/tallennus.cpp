@@ -290,6 +290,14 @@ bool AvaaTilanne(Peli& peli, const std::string& nimi) {
                                               lista->clear();
                                       },
                                       [&] {
+                                          // The buyers' call requests aren't saved: an opened farm
+                                          // starts with none waiting, the phone quiet, and no call
+                                          // or contract chosen on the contracts screen.
+                                          peli.näkymä.Sopimuksia.clear();
+                                          peli.näkymä.Puhelin = false;
+                                          peli.sopimusruutu = SopimusRuutuTila{};
+                                      },
+                                      [&] {
                                           const auto tavut = LueTiedosto(sav);
                                           if (!tavut) NostaVika(VIKA_EI_TIEDOSTOA);
                                           Kirjoita(temp, Siirrä(*tavut, -1));

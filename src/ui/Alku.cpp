@@ -30,7 +30,8 @@ Alku::Alku(Peli& peli, QWidget* vanhempi) : Tausta(vanhempi), peli_(peli) {
     kortti->setMaximumWidth(560);
     auto* logo = new QLabel(kortti);
     logo->setObjectName("Picture1");
-    logo->setPixmap(KuvaJosOn(peli_, "Kuvat/ahmasofta.jpg").scaledToHeight(90, Qt::SmoothTransformation));
+    const QPixmap merkki = KuvaJosOn(peli_, "Kuvat/ahmasofta.jpg");
+    logo->setPixmap(Sovita(merkki, merkki.width() * 90 / std::max(1, merkki.height()), 90));
     logo->setAlignment(Qt::AlignCenter);
 
     nimesi_ = new QLineEdit(kortti);

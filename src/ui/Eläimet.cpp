@@ -44,12 +44,12 @@ Eläimet::Eläimet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
 
     teuraskuva_ = new QLabel(this);
     teuraskuva_->setObjectName("Teuraskuva");
-    teuraskuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/teurastaja.jpg").scaled(50, 50, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    teuraskuva_->setPixmap(Sovita(KuvaJosOn(peli_, "Kuvat/ihmiset/teurastaja.jpg"), 50, 50));
     teuraskuva_->setCursor(Qt::PointingHandCursor);
     teuraskuva_->installEventFilter(this);
     nahkurikuva_ = new QLabel(this);
     nahkurikuva_->setObjectName("NahkuriKuva");
-    nahkurikuva_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/nahkuri.jpg").scaled(50, 50, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    nahkurikuva_->setPixmap(Sovita(KuvaJosOn(peli_, "Kuvat/ihmiset/nahkuri.jpg"), 50, 50));
     nahkurikuva_->setCursor(Qt::PointingHandCursor);
     nahkurikuva_->installEventFilter(this);
     teuras_ = Teuraspaneeli(false);
@@ -101,7 +101,7 @@ QWidget* Eläimet::Kortisto() {
         kuvat_[kortti] = new QLabel(kortisto);
         kuvat_[kortti]->setObjectName(QString("Kuva(%1)").arg(kortti));
         const Ohjain kuva = Lue(peli_, "Kuva(" + std::to_string(kortti) + ")");
-        kuvat_[kortti]->setPixmap(tanhua::ui::Kuva(peli_, "Kuvat/Eläimet/" + kuva.arvo).scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[kortti]->setPixmap(Sovita(tanhua::ui::Kuva(peli_, "Kuvat/Eläimet/" + kuva.arvo), 64, 64));
         kuvat_[kortti]->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
         kuvat_[kortti]->setFixedSize(68, 68);
         kuvat_[kortti]->setAlignment(Qt::AlignCenter);
@@ -309,7 +309,7 @@ void Eläimet::Päivitä() {
     const Ohjain kohdistin = Lue(peli_, "Kohdistin");
     if (kohdistin.näkyvissä && t.kohdistin >= 0) {
         QLabel* kuva = kuvat_[t.kohdistin];
-        kohdistin_->setPixmap(KuvaJosOn(peli_, "Kuvat/" + kohdistin.arvo).scaled(kuva->size()));
+        kohdistin_->setPixmap(Sovita(KuvaJosOn(peli_, "Kuvat/" + kohdistin.arvo), kuva->width(), kuva->height()));
         kohdistin_->setProperty("tiedosto", QString::fromStdString(kohdistin.arvo));
         kohdistin_->setGeometry(QRect(kuva->mapTo(this, QPoint(0, 0)), kuva->size()));
         kohdistin_->show();

@@ -2,6 +2,7 @@
 #include "Kuvat.h"
 
 // own
+#include "Kangas.h"
 #include "RahaKyltti.h"
 #include "storage/tiedostot.h"
 // Qt
@@ -24,6 +25,8 @@ QString Q(const std::string& s) { return QString::fromStdString(s); }
 std::string S(const QString& s) { return s.toStdString(); }
 
 namespace {
+constexpr qreal KUVIEN_PIKSELISUHDE = 2;
+
 QHash<QString, QPixmap>& Välimuisti() {
     static QHash<QString, QPixmap> kuvat;
     return kuvat;
@@ -38,6 +41,9 @@ QPixmap Kuva(const Peli& peli, const std::string& polku) {
     if (auto it = kuvat.find(avain); it != kuvat.end()) return *it;
     QPixmap kuva(avain);
     if (kuva.isNull()) NostaVika(VIKA_TIEDOSTONIMI);
+    // The program folder's pictures are drawn at two pixels a unit of the canvas: a picture keeps its
+    // size on the screens and has the pixels to stay sharp when the canvas is scaled up.
+    kuva.setDevicePixelRatio(KUVIEN_PIKSELISUHDE);
     kuvat.insert(avain, kuva);
     return kuva;
 }
@@ -191,7 +197,7 @@ void NäytäKuva(const Peli& peli, QLabel* l, const std::string& kansio, const O
     l->setVisible(o.näkyvissä);
     if (!o.näkyvissä) return;
     const QPixmap kuva = KuvaJosOn(peli, kansio + o.arvo);
-    l->setPixmap(koko > 0 ? kuva.scaled(koko, koko, Qt::KeepAspectRatio, Qt::SmoothTransformation) : kuva);
+    l->setPixmap(koko > 0 ? Sovita(kuva, koko, koko) : kuva);
     if (!o.vihje.empty()) l->setToolTip(Q(o.vihje));
     l->setProperty("tiedosto", Q(o.arvo));
 }

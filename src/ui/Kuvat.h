@@ -2,6 +2,7 @@
 #pragma once
 
 // own
+#include "Kangas.h"
 #include "core/ohjaimet.h"
 #include "core/peli.h"
 // Qt

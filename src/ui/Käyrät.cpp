@@ -202,7 +202,7 @@ void Käyrät::Päivitä() {
     const bool kuva = O(peli_, kuva_).näkyvissä;
     if (kuva && !kuva_->isVisible()) {
         const QPixmap& p = ikkuna_.KuukaudenvaihdeKuva;
-        static_cast<QLabel*>(kuva_)->setPixmap(p.scaled(size(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        static_cast<QLabel*>(kuva_)->setPixmap(Sovita(p, width(), height()));
         kuva_->setGeometry(rect());
         kuva_->show();
         kuva_->raise();

@@ -12,11 +12,17 @@
 
 namespace tanhua::ui {
 
-Message::Message(Peli& peli, QWidget* vanhempi) : QDialog(vanhempi), peli_(peli) {
+Message::Message(Peli& peli, QWidget* vanhempi) : QWidget(vanhempi), peli_(peli) {
     setObjectName("Message");
     setWindowTitle("Tanhua");
-    setModal(true);
+    hide();
     resize(560, 300);
+    // The shade over the screen under the box: it takes the clicks meant for the screen.
+    suoja_ = new QWidget(vanhempi);
+    suoja_->setObjectName("MessageSuoja");
+    suoja_->setAttribute(Qt::WA_StyledBackground);
+    suoja_->setStyleSheet("#MessageSuoja { background: rgba(20, 14, 6, 70); }");
+    suoja_->hide();
     for (int i = 1; i >= 0; --i) {
         txt_[i] = new QLabel(this);
         txt_[i]->setWordWrap(true);
@@ -39,6 +45,7 @@ Message::Message(Peli& peli, QWidget* vanhempi) : QDialog(vanhempi), peli_(peli)
     napit->addStretch();
     for (QPushButton* n : {kyllä_, ei_, sulje_}) {
         Teksturoi(peli_, n, "nappi2.jpg", 10, 12);
+        n->setAutoDefault(true);
         n->setMinimumSize(110, 34);
         napit->addWidget(n);
     }
@@ -80,7 +87,13 @@ void Message::Valmistele(const std::string& teksti, int tyyli) {
 std::string Message::Kysy(const std::string& teksti, int tyyli) {
     Valmistele(teksti, tyyli);
     peli_.näkymä.MsgVastaus.clear();
-    exec();
+    QEventLoop silmukka;
+    silmukka_ = &silmukka;
+    show();
+    (tyyli == 1 ? kyllä_ : sulje_)->setFocus();
+    silmukka.exec();
+    silmukka_ = nullptr;
+    hide();
     if (peli_.näkymä.MsgVastaus.empty()) peli_.näkymä.MsgVastaus = tyyli == 1 ? EI : VASTATTU;
     return peli_.näkymä.MsgVastaus;
 }
@@ -88,7 +101,8 @@ std::string Message::Kysy(const std::string& teksti, int tyyli) {
 void Message::Vastaa(const char* vastaus) {
     // The click's sound is the game's: Kysy plays it once the answer is back.
     peli_.näkymä.MsgVastaus = vastaus;
-    accept();
+    hide();
+    if (silmukka_) silmukka_->quit();
     ArvoTausta();  // a new background for the next time
 }
 
@@ -96,16 +110,40 @@ void Message::keyPressEvent(QKeyEvent* tapahtuma) {
     // K and E answer in both styles; in style 0 they close the box as "Sulje" would.
     if (tapahtuma->key() == Qt::Key_K) return Vastaa(KYLLÄ);
     if (tapahtuma->key() == Qt::Key_E) return Vastaa(EI);
-    QDialog::keyPressEvent(tapahtuma);
+    // Esc is the box's own close button.
+    if (tapahtuma->key() == Qt::Key_Escape) return Vastaa(sulje_->isVisible() ? VASTATTU : EI);
+    QWidget::keyPressEvent(tapahtuma);
 }
 
-void Message::reject() {
-    // Closing the box by the window's frame or Esc is the box's own close button.
-    Vastaa(sulje_->isVisible() ? VASTATTU : EI);
+void Message::showEvent(QShowEvent* tapahtuma) {
+    // In the middle of the canvas, over the shade.
+    if (const QWidget* alla = parentWidget()) {
+        move((alla->width() - width()) / 2, (alla->height() - height()) / 2);
+        suoja_->setGeometry(alla->rect());
+    }
+    suoja_->show();
+    suoja_->raise();
+    raise();
+    QWidget::showEvent(tapahtuma);
+}
+
+void Message::hideEvent(QHideEvent* tapahtuma) {
+    suoja_->hide();
+    QWidget::hideEvent(tapahtuma);
+}
+
+bool Message::focusNextPrevChild(bool seuraava) {
+    QList<QPushButton*> napit;
+    for (QPushButton* n : {kyllä_, ei_, sulje_})
+        if (n->isVisible()) napit << n;
+    if (napit.isEmpty()) return false;
+    const int nyt = std::max<qsizetype>(0, napit.indexOf(qobject_cast<QPushButton*>(focusWidget())));
+    napit[(nyt + (seuraava ? 1 : napit.size() - 1)) % napit.size()]->setFocus(seuraava ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void Message::resizeEvent(QResizeEvent* tapahtuma) {
-    QDialog::resizeEvent(tapahtuma);
+    QWidget::resizeEvent(tapahtuma);
     AsetteleTeksti();
 }
 

@@ -4,14 +4,17 @@
 // own
 #include "core/peli.h"
 // Qt
-#include <QDialog>
+#include <QEventLoop>
+#include <QWidget>
 #include <QLabel>
 #include <QPushButton>
 #include <QRandomGenerator>
 
 namespace tanhua::ui {
 
-class Message : public QDialog {
+// The box lies on the canvas over the screen it speaks to, with a shade over the rest that takes the
+// clicks; it waits in an event loop of its own, so it scales with the canvas like every screen.
+class Message : public QWidget {
 public:
     Message(Peli& peli, QWidget* vanhempi);
 
@@ -30,7 +33,10 @@ protected:
     void keyPressEvent(QKeyEvent* tapahtuma) override;
     void resizeEvent(QResizeEvent* tapahtuma) override;
     void paintEvent(QPaintEvent* tapahtuma) override;
-    void reject() override;
+    void showEvent(QShowEvent* tapahtuma) override;
+    void hideEvent(QHideEvent* tapahtuma) override;
+    // Tab keeps to the box's own buttons.
+    bool focusNextPrevChild(bool seuraava) override;
 
 private:
     void Vastaa(const char* vastaus);
@@ -41,6 +47,8 @@ private:
     QLabel* txt_[2];
     QPushButton *kyllä_, *ei_, *sulje_;
     QPixmap tausta_;
+    QWidget* suoja_;
+    QEventLoop* silmukka_ = nullptr;
     // The background is only a look: it comes from the window's own draws, never the game's.
     QRandomGenerator ulkoasu_{20260601};
 };

@@ -3,6 +3,7 @@
 
 // own
 #include "Eläimet.h"
+#include "Kuvat.h"
 #include "Tuotteet.h"
 #include "Työvoima.h"
 #include "Rakennukset.h"
@@ -22,6 +23,7 @@
 #include "Sopimukset.h"
 #include "market/markkinat.h"
 #include "core/alku.h"
+#include "core/kursorit.h"
 #include "core/päivä.h"
 #include "core/pääruutu.h"
 #include "core/tähdet.h"
@@ -29,18 +31,27 @@
 #include "core/viestit.h"
 // Qt
 #include <QCloseEvent>
+#include <cmath>
 #include <QCoreApplication>
 #include <QThread>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QKeyEvent>
 
 namespace tanhua::ui {
 
 Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     setWindowTitle("Tanhua");
-    setMinimumSize(800, 600);
-    pino_ = new QStackedWidget(this);
-    setCentralWidget(pino_);
+    // Every screen is laid out on the 800 x 600 canvas; the view scales it to the window. Below scale 1
+    // the smallest texts of the screens would no longer be readable, so the window keeps that size.
+    setMinimumSize(KANKAAN_LEVEYS, KANKAAN_KORKEUS);
+    sisältö_ = new QWidget;
+    sisältö_->setObjectName("Kangas");
+    pino_ = new QStackedWidget(sisältö_);
+    pino_->setGeometry(0, 0, KANKAAN_LEVEYS, KANKAAN_KORKEUS);
+    kangas_ = new Kangas(sisältö_, this);
+    kangas_->MittakaavaMuuttui = [this](double) { MittakaavaMuuttui(); };
+    setCentralWidget(kangas_);
     alku_ = new Alku(peli_, pino_);
     tanhua_ = new Tanhua(peli_, pino_);
     raportti_ = new Raportti(peli_, pino_);
@@ -73,10 +84,11 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
-    message_ = new Message(peli_, this);
+    message_ = new Message(peli_, sisältö_);
     pohja_ = new Pohja(peli_, this);
 
     alku_->Aloitettu = [this] {
+        AsetaNäyttö();
         LataaKursorit();
         pino_->setCurrentWidget(tanhua_);
         PalaaPääruutuun();
@@ -86,6 +98,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         bool avattu = false;
         Toimi([&] { avattu = JatkaTilannetta(peli_); });
         if (avattu) {
+            AsetaNäyttö();
             LataaKursorit();
             pino_->setCurrentWidget(tanhua_);
             PalaaPääruutuun();
@@ -125,8 +138,7 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     tanhua_->AvaaKäyrät = [this] { AvaaRuutu(käyrät_); };
     ravit_->Suljettu = [this] {
         if (raviPaluu_) {
-            pino_->setCurrentWidget(raviPaluu_);
-            Päivitä();
+            TaitaToiseen(ravit_, raviPaluu_);
         } else {
             PalaaPääruutuun();
         }
@@ -151,18 +163,74 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
         PalautaKohdistus(nullptr);
     };
 
-    // 1024 x 768, or the screen's size when it is smaller.
+    // The field around the canvas, and F11 between a window and the whole screen.
+    kangas_->AsetaReunakuva(KuvaJosOn(peli_, "Kuvat/OhraPelto2.jpg"));
+    // F11 is heard wherever the focus is: on a screen of the canvas, in a box or on the logo.
+    qApp->installEventFilter(this);
+
+    // The largest 4:3 window that takes no more than 85 % of the screen, but never below the canvas.
     QSize koko(1024, 768);
-    if (const QScreen* näyttö = QGuiApplication::primaryScreen())
-        koko = koko.boundedTo(näyttö->availableSize());
+    if (const QScreen* näyttö = QGuiApplication::primaryScreen()) {
+        const QSize ala = näyttö->availableSize() * 0.85;
+        koko = QSize(KANKAAN_LEVEYS, KANKAAN_KORKEUS).scaled(ala, Qt::KeepAspectRatio)
+                   .expandedTo(QSize(KANKAAN_LEVEYS, KANKAAN_KORKEUS));
+    }
     resize(koko);
 }
 
+void Pääikkuna::AsetaKokoNäyttö(bool koko) {
+    // The desktop's display mode is never changed: the whole screen is the window without its frame,
+    // and the canvas scales to it.
+    if (koko == isFullScreen()) return;
+    if (koko) showFullScreen();
+    else showNormal();
+}
+
+void Pääikkuna::AsetaNäyttö() {
+    if (peli_.asetukset.Resoluutio800) AsetaKokoNäyttö(true);
+}
+
+void Pääikkuna::MittakaavaMuuttui() {
+    // Pictures are made again at the new resolution, and the pointer grows with the canvas.
+    AsetaKursorit();
+    Päivitä();
+}
+
 void Pääikkuna::LataaKursorit() {
-    // The game's own pointer, a pitchfork whose tip is the hot spot, when the setting asks for it.
-    if (!peli_.asetukset.Kursorit) return;
+    // The pitchfork goes to the forms the game names, each from the file, so a missing file tells
+    // the player once a form.
+    kursorilliset_.clear();
+    tanhua::LataaKursorit(peli_, [this](std::string_view lomake) {
+        Kuva(peli_, "Kuvat/talikko.ico");
+        if (QWidget* w = KursorinLomake(lomake)) kursorilliset_.push_back(w);
+    });
+    AsetaKursorit();
+}
+
+QWidget* Pääikkuna::KursorinLomake(std::string_view lomake) const {
+    // "ikkuna" is the start screen's panel, which lives on the start screen here.
+    const std::pair<std::string_view, QWidget*> lomakkeet[] = {
+        {"Alku", alku_},         {"ikkuna", alku_},       {"Eläimet", eläimet_},     {"Tanhua", tanhua_},
+        {"Hevostalli", hevostalli_}, {"Käyrät", käyrät_}, {"Message", message_},     {"Pankki", pankki_},
+        {"Pellot", pellot_},     {"Pohja", pohja_},       {"RahaKyltti", kyltti_},   {"Rakennukset", rakennukset_},
+        {"Raportti", raportti_}, {"Tilanne", tilanne_},   {"Topten", topten_},       {"Tuotteet", tuotteet_},
+        {"Työvoima", työvoima_}};
+    for (const auto& [nimi, w] : lomakkeet)
+        if (nimi == lomake) return w;
+    return nullptr;
+}
+
+void Pääikkuna::AsetaKursorit() {
+    // The pointer is 32 units of the canvas, its tip the hot spot: it grows with the scale.
+    if (kursorilliset_.empty()) return;
     const QPixmap talikko = KuvaJosOn(peli_, "Kuvat/talikko.ico");
-    if (!talikko.isNull()) setCursor(QCursor(talikko.scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation), 0, 0));
+    if (talikko.isNull()) return;
+    const double suhde = devicePixelRatioF();
+    const int koko = static_cast<int>(std::lround(32 * kangas_->Mittakaava() * suhde));
+    QPixmap kuva = talikko.scaled(koko, koko, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    kuva.setDevicePixelRatio(suhde);
+    const QCursor kursori(kuva, 0, 0);
+    for (QWidget* w : kursorilliset_) w->setCursor(kursori);
 }
 
 void Pääikkuna::NäytäLogo() {
@@ -302,8 +370,23 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
 void Pääikkuna::AvaaRavit(QWidget* paluu) {
     raviPaluu_ = paluu;
     Toimi([this] { tanhua::AvaaRavit(peli_); });
-    pino_->setCurrentWidget(ravit_);
+    TaitaToiseen(pino_->currentWidget(), ravit_);
+}
+
+void Pääikkuna::TaitaToiseen(QWidget* pois, QWidget* esiin) {
+    // Each form is back at its own size when its fold ends; the main form pauses as it does when
+    // it folds for any screen.
+    const QRect sivu = pois->geometry();
+    pois->setEnabled(false);
+    Taita(pois, KuvanPienennys(peli_, sivu.height(), sivu.y(), pois == tanhua_ ? Lomake::Pääruutu : Lomake::Alaruutu));
+    pois->setGeometry(sivu);
+    pois->setEnabled(pois != tanhua_ || peli_.näkymä.PääruutuKäytössä);
+    pino_->setCurrentWidget(esiin);
     Päivitä();
+    esiin->setEnabled(false);
+    Taita(esiin, KuvanSuurennus(peli_, sivu.height(), sivu.y(), Lomake::Alaruutu));
+    esiin->setGeometry(sivu);
+    esiin->setEnabled(true);
 }
 
 void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
@@ -381,8 +464,20 @@ void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->wid
 void Pääikkuna::resizeEvent(QResizeEvent* tapahtuma) {
     QMainWindow::resizeEvent(tapahtuma);
     AsetteleKyltti();
+    if (pohja_ && pohja_->isVisible()) pohja_->setGeometry(rect());
     if (uutiset_->isVisible())
         uutiset_->move((pino_->width() - uutiset_->width()) / 2, (pino_->height() - uutiset_->height()) / 2);
+}
+
+bool Pääikkuna::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+    if (tapahtuma->type() == QEvent::KeyPress) {
+        const auto* näppäin = static_cast<QKeyEvent*>(tapahtuma);
+        if (näppäin->key() == Qt::Key_F11) {
+            if (!näppäin->isAutoRepeat()) AsetaKokoNäyttö(!isFullScreen());
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(kohde, tapahtuma);
 }
 
 void Pääikkuna::closeEvent(QCloseEvent* tapahtuma) {

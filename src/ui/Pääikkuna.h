@@ -3,6 +3,7 @@
 
 // own
 #include "Alku.h"
+#include "Kangas.h"
 #include "Message.h"
 #include "Pohja.h"
 #include "RahaKyltti.h"
@@ -90,6 +91,12 @@ public:
     Tilanne* tilanne() const { return tilanne_; }
     Topten* topten() const { return topten_; }
     QStackedWidget* pino() const { return pino_; }
+    // The 800 x 600 canvas that holds every screen, and the view that scales it to the window.
+    QWidget* sisältö() const { return sisältö_; }
+    Kangas* kangas() const { return kangas_; }
+    // `Resoluutio800`: on, the game takes the whole screen; F11 switches at any time.
+    void AsetaNäyttö();
+    void AsetaKokoNäyttö(bool koko);
     Peli& peli() { return peli_; }
 
     // The month end's snapshot of the window, for the statistics screen.
@@ -101,6 +108,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent* tapahtuma) override;
     void closeEvent(QCloseEvent* tapahtuma) override;
+    bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
 
 private:
     void AsetteleKyltti();
@@ -108,10 +116,19 @@ private:
     // The Tilanne and top-ten screens lead to each other, and the story keeps its screen up.
     QWidget* UranRuutu(QWidget* nyt);
     void LataaKursorit();
+    QWidget* KursorinLomake(std::string_view lomake) const;
+    void AsetaKursorit();
+    void MittakaavaMuuttui();
     // A screen folding to its middle line (or opening from it) by the rounds the rules give.
     void Taita(QWidget* lomake, const Taitto& taitto);
+    // One screen folds away and the next opens from its middle line (the stable and the races).
+    void TaitaToiseen(QWidget* pois, QWidget* esiin);
 
     Peli& peli_;
+    QWidget* sisältö_;
+    Kangas* kangas_;
+    // The forms that took the game's pointer, given it again at each new scale.
+    std::vector<QWidget*> kursorilliset_;
     QStackedWidget* pino_;
     Alku* alku_;
     Tanhua* tanhua_;
@@ -136,7 +153,7 @@ private:
     ikkuna* uutiset_;
     RahaKyltti* kyltti_;
     Message* message_;
-    Pohja* pohja_;
+    Pohja* pohja_ = nullptr;
 };
 
 }  // namespace tanhua::ui

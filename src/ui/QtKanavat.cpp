@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <optional>
 
 namespace tanhua::ui {
 
@@ -42,24 +43,46 @@ void QtKanavat::Raportti(const RaporttiSivu& sivu) {
 
 void QtKanavat::Loppu() { ikkuna_->lopetus(); }
 
+namespace {
+// The system's boxes are windows of their own, outside the canvas: their text grows with the canvas'
+// scale so that they read as the game does on a large screen.
+void Mitoita(QWidget* laatikko, const Pääikkuna* ikkuna) {
+    const double mittakaava = ikkuna ? ikkuna->kangas()->Mittakaava() : 1.0;
+    if (mittakaava <= 1.0) return;
+    QFont f = laatikko->font();
+    f.setPointSizeF(f.pointSizeF() * mittakaava);
+    laatikko->setFont(f);
+}
+
+// A prompt for one line of text; the default when it is cancelled.
+std::optional<QString> Rivikehote(Pääikkuna* ikkuna, const std::string& otsikko, const std::string& kysymys,
+                            const std::string& oletus) {
+    QInputDialog kehote(ikkuna);
+    kehote.setWindowTitle(QString::fromStdString(otsikko));
+    kehote.setLabelText(QString::fromStdString(kysymys));
+    kehote.setTextValue(QString::fromStdString(oletus));
+    Mitoita(&kehote, ikkuna);
+    if (kehote.exec() != QDialog::Accepted) return std::nullopt;
+    return kehote.textValue();
+}
+}  // namespace
+
 void QtKanavat::Laatikko(const std::string& teksti) {
-    QMessageBox::information(ikkuna_, "Tanhua", QString::fromStdString(teksti));
+    QMessageBox laatikko(QMessageBox::Information, "Tanhua", QString::fromStdString(teksti), QMessageBox::Ok, ikkuna_);
+    Mitoita(&laatikko, ikkuna_);
+    laatikko.exec();
 }
 
 std::string QtKanavat::Kehote(const std::string& kysymys, const std::string& oletus) {
-    bool ok = false;
-    const QString vastaus = QInputDialog::getText(ikkuna_, "Tanhua", QString::fromStdString(kysymys), QLineEdit::Normal,
-                                                  QString::fromStdString(oletus), &ok);
-    return ok ? vastaus.toStdString() : oletus;
+    const std::optional<QString> vastaus = Rivikehote(ikkuna_, "Tanhua", kysymys, oletus);
+    return vastaus ? vastaus->toStdString() : oletus;
 }
 
 std::string QtKanavat::KehoteOtsikolla(const std::string& kysymys, const std::string& otsikko,
                                        const std::string& oletus) {
     // A cancelled prompt gives nothing, as the player typed nothing.
-    bool ok = false;
-    const QString vastaus = QInputDialog::getText(ikkuna_, QString::fromStdString(otsikko), QString::fromStdString(kysymys),
-                                                  QLineEdit::Normal, QString::fromStdString(oletus), &ok);
-    return ok ? vastaus.toStdString() : std::string();
+    const std::optional<QString> vastaus = Rivikehote(ikkuna_, otsikko, kysymys, oletus);
+    return vastaus ? vastaus->toStdString() : std::string();
 }
 
 void QtKanavat::Ääni(const std::string& nimi) { soitin_.Soita(nimi); }
@@ -84,13 +107,15 @@ bool QtKanavat::Vikalaatikko(const std::string&, int, const std::string& teksti)
     QMessageBox laatikko(QMessageBox::Critical, "VikaTila", QString::fromStdString(teksti),
                          QMessageBox::Yes | QMessageBox::No, ikkuna_);
     laatikko.setObjectName("VikaTila");
+    Mitoita(&laatikko, ikkuna_);
     return laatikko.exec() == QMessageBox::Yes;
 }
 
 void QtKanavat::Kuvakaappaus() {
-    // The month's picture is the window as it stands, the report over the main screen.
+    // The month's picture is the canvas as it stands, the report over the main screen, at the canvas'
+    // own size: the margins around it are no part of the game.
     ikkuna_->pino()->setCurrentWidget(ikkuna_->raportti());
-    ikkuna_->KuukaudenvaihdeKuva = ikkuna_->grab();
+    ikkuna_->KuukaudenvaihdeKuva = ikkuna_->sisältö()->grab();
 }
 
 void QtKanavat::Lataus(const std::string& texti, int palkki) { ikkuna_->alku()->Lataus(texti, palkki); }

@@ -163,7 +163,7 @@ QWidget* Rakennukset::Työmaat() {
         const Ohjain kuva = Lue(peli_, "Picture(" + std::to_string(paikka + 1) + ")");
         kuvat_[kohde] = new QLabel(työmaat);
         kuvat_[kohde]->setObjectName(QString("Picture%1").arg(paikka + 1));
-        kuvat_[kohde]->setPixmap(KuvaJosOn(peli_, Kuvatiedosto(peli_, kohde)).scaled(96, 72, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[kohde]->setPixmap(Sovita(KuvaJosOn(peli_, Kuvatiedosto(peli_, kohde)), 96, 72));
         kuvat_[kohde]->setAlignment(Qt::AlignCenter);
         kuvat_[kohde]->setCursor(Qt::PointingHandCursor);
         kuvat_[kohde]->setToolTip(Q(kuva.vihje));
@@ -196,7 +196,7 @@ void Rakennukset::Päivitä() {
     Näytä(siiloz_, Lue(peli_, "siiloz"));
     Näytä(varastoz_, Lue(peli_, "varastoz"));
     const RakennusRuutuTila& t = peli_.rakennusruutu;
-    korttikuva_->setPixmap(t.kohde >= 0 ? KuvaJosOn(peli_, Kuvatiedosto(peli_, t.kohde)).scaled(112, 84, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+    korttikuva_->setPixmap(t.kohde >= 0 ? Sovita(KuvaJosOn(peli_, Kuvatiedosto(peli_, t.kohde)), 112, 84)
                                         : QPixmap());
     Näytä(nimi_, Lue(peli_, "Kohde"));
     Näytä(taso_, Lue(peli_, "taso"));

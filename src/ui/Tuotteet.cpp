@@ -41,7 +41,7 @@ Tuotteet::Tuotteet(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     connect(sulje_, &QPushButton::clicked, this, &Tuotteet::Sulje);
     kirjanpitäjä_ = new QLabel(this);
     kirjanpitäjä_->setObjectName("KirjanpitäjäKuva");
-    kirjanpitäjä_->setPixmap(KuvaJosOn(peli_, "Kuvat/ihmiset/kirjanpitäjä.jpg").scaled(84, 84, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    kirjanpitäjä_->setPixmap(Sovita(KuvaJosOn(peli_, "Kuvat/ihmiset/kirjanpitäjä.jpg"), 84, 84));
     kirjanpitäjä_->setCursor(Qt::PointingHandCursor);
     kirjanpitäjä_->setProperty("kohde", static_cast<int>(TuoteKohde::KirjanpitäjäKuva));
     kirjanpitäjä_->installEventFilter(this);
@@ -69,8 +69,7 @@ QWidget* Tuotteet::Hylly() {
         kuvat_[k] = new QLabel(hylly);
         const Ohjain kuva = Lue(peli_, Nro("Kuva", k));
         kuvat_[k]->setObjectName(QString::fromStdString(Nro("Kuva", k)));
-        kuvat_[k]->setPixmap(KuvaJosOn(peli_, "Kuvat/tuotteet/" + kuva.arvo)
-                                 .scaled(58, 58, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        kuvat_[k]->setPixmap(Sovita(KuvaJosOn(peli_, "Kuvat/tuotteet/" + kuva.arvo), 58, 58));
         kuvat_[k]->setProperty("tiedosto", QString::fromStdString(kuva.arvo));
         kuvat_[k]->setAlignment(Qt::AlignCenter);
         kuvat_[k]->setCursor(Qt::PointingHandCursor);

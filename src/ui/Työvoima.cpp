@@ -173,7 +173,7 @@ void Työvoima::Päivitä() {
                            std::pair{ylityöPois_, "Command6"}, std::pair{sulje_, "Command1"}})
         Näytä(peli_, b, nimi);
     kuva_->setPixmap(t.kuva.empty() ? QPixmap()
-                                    : KuvaJosOn(peli_, t.kuva).scaled(96, 96, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+                                    : Sovita(KuvaJosOn(peli_, t.kuva), 96, 96));
     const Ohjain mittari = O(peli_, "mittari");
     {
         const QSignalBlocker esto(mittari_);

@@ -39,7 +39,7 @@ ikkuna::ikkuna(Peli& peli, QWidget* vanhempi) : QFrame(vanhempi), peli_(peli) {
 void ikkuna::AsetaKuva(const std::string& kuva) {
     // An event without a picture of its own shows the blank picture.
     const QPixmap p = kuva.empty() ? QPixmap() : Kuva(peli_, kuva);
-    kuva_->setPixmap(p.isNull() ? QPixmap() : p.scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    kuva_->setPixmap(p.isNull() ? QPixmap() : Sovita(p, 400, 300));
     kuva_->setProperty("tiedosto", Q(std::filesystem::path(kuva).filename().string()));
     näytettyKuva_ = kuva;
 }
@@ -48,8 +48,10 @@ void ikkuna::Näytä(const std::string& kuva, const std::string& teksti) {
     AsetaKuva(kuva);
     tapahtuma_->setText(QString::fromStdString(teksti));
     // A long text wraps inside the window, which grows to hold it rather than cut it off.
+    // When the text would run past the canvas, the window widens, up to nearly the canvas' width.
     const QWidget* alla = parentWidget();
-    const int leveys = 480;
+    int leveys = 480;
+    while (layout()->totalHeightForWidth(leveys) > alla->height() - 16 && leveys + 80 <= alla->width() - 16) leveys += 80;
     const int korkeus = std::min(std::max(460, layout()->totalHeightForWidth(leveys)), alla->height());
     resize(leveys, korkeus);
     move((alla->width() - width()) / 2, (alla->height() - height()) / 2);

@@ -108,10 +108,8 @@ TEST(Breeding, EachSpeciesNeedsItsOwnPairAndSpeciesShareTheLastPlaces) {
     el[Sika][Uros] = 1;      // a boar without a sow
     t.m.Koko_Navetta = 8;    // 6 heads: each birth alone fits, and both are let in
     Lisäänny(t, {0.0, 0.0, 0.0, 0.0, 0.0, 0.0}, {0.0, 0.0, 0.0, 0.0});
-    EXPECT_EQ(el[Nauta][Poikanen], 1);
-    EXPECT_EQ(el[Hevonen][Poikanen], 1);
-    EXPECT_EQ(el[Lammas][Poikanen], 0);
-    EXPECT_EQ(el[Sika][Poikanen], 0);
+    EXPECT_EQ(std::tuple(el[Nauta][Poikanen], el[Hevonen][Poikanen], el[Lammas][Poikanen], el[Sika][Poikanen]),
+              std::tuple(1, 1, 0, 0));
 }
 
 TEST(Breeding, LittersAreDrawnHenPigFoxSheep) {

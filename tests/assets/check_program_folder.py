@@ -11,7 +11,8 @@ exist, be readable, be of the format its name says, and hold real content:
   .wav                     RIFF WAVE PCM with frames that are not all silence
   .mid                     a Standard MIDI File with notes, playing 60 to 180 seconds
   .png .jpg .gif .bmp .ico .cur
-                           a picture that decodes and has more than one colour
+                           a picture that decodes and has more than one colour; under Kuvat/
+                           every size of it even, as the game shows those at two pixels a unit
   Asetukset.dat            nine lines of settings that convert
   Savetus.dat              at most one line (empty is fine: no farm saved yet)
   Topten.dat Topmilj.dat Top10v.dat
@@ -39,6 +40,7 @@ TOP_TEN_FILES = ("topten.dat", "topmilj.dat", "top10v.dat")
 SETTING_COUNT = 9
 HORSES = (11, 100)
 SILENCE_PEAK = 0.01  # a wave whose loudest sample is under 1 % of full scale is silence
+PIXELS_PER_UNIT = 2  # the game lays out the pictures of Kuvat/ at half their pixel size
 
 
 class Bad(Exception):
@@ -185,7 +187,7 @@ def check_song(path):
 
 # --- pictures ----------------------------------------------------------------------
 
-def check_picture(path):
+def check_picture(path, in_units=False):
     try:
         from PIL import Image
     except ImportError:
@@ -196,6 +198,7 @@ def check_picture(path):
             picture.verify()
         with Image.open(path) as picture:
             found = picture.format
+            sizes = sorted(picture.info.get("sizes") or [picture.size])
             picture.load()
             rgba = picture.convert("RGBA")
     except Exception as failure:  # Pillow raises many kinds on a broken file
@@ -206,6 +209,11 @@ def check_picture(path):
         raise Bad("the picture is fully transparent")
     if rgba.getcolors(1) is not None:
         raise Bad("the picture is a single colour")
+    if in_units:
+        odd = ["%dx%d" % size for size in sizes if any(side % PIXELS_PER_UNIT for side in size)]
+        if odd:
+            raise Bad("%s pixels: not a whole number of units at %d pixels a unit"
+                      % (", ".join(odd), PIXELS_PER_UNIT))
 
 
 # --- data files --------------------------------------------------------------------
@@ -345,7 +353,10 @@ def check_folder(program_folder, assets_folder):
             problems.append("%s: missing" % relative)
             continue
         try:
-            checker(path)
+            if checker is check_picture:
+                checker(path, in_units=relative.replace("\\", "/").lower().startswith("kuvat/"))
+            else:
+                checker(path)
         except Bad as fault:
             problems.append("%s: %s" % (relative, fault))
         except OSError as failure:
@@ -401,6 +412,15 @@ def sample_picture(colours, size=(16, 16), kind="PNG"):
     return out.getvalue()
 
 
+def sample_icon(sizes):
+    from PIL import Image
+    picture = Image.new("RGBA", max(sizes), (0, 0, 0, 0))
+    picture.paste((30, 120, 30, 255), (0, 0, picture.width // 2, picture.height))
+    out = io.BytesIO()
+    picture.save(out, "ICO", sizes=sizes)
+    return out.getvalue()
+
+
 def shifted(lines):
     data = b"".join(line.encode(CODE_PAGE) + b"\r\n" for line in lines)
     return bytes(b if b in (0x0D, 0x0A) else b + 1 for b in data)
@@ -415,6 +435,8 @@ def self_test():
         "Midi/hyvä.mid": sample_song(90),
         "Kuvat/hyvä.png": sample_picture([(200, 10, 10), (10, 10, 200)]),
         "Kuvat/hyvä.jpg": sample_picture([(250, 250, 250), (0, 0, 0)], (32, 32), "JPEG"),
+        "Kuvat/hyvä.ico": sample_icon([(16, 16), (32, 32)]),
+        "Äänet/pariton.png": sample_picture([(200, 10, 10), (10, 10, 200)], (15, 9)),
         "Data/Asetukset.dat": good_settings,
         "Data/Savetus.dat": b"",
         "Data/Topten.dat": shifted(good_list),
@@ -432,6 +454,8 @@ def self_test():
         "Kuvat/yksivärinen.png": (sample_picture([(30, 120, 30)]), "single colour"),
         "Kuvat/väärä.gif": (sample_picture([(1, 2, 3), (200, 0, 0)]), "GIF"),
         "Kuvat/rikki.png": (sample_picture([(1, 2, 3), (200, 0, 0)])[:40], "decode"),
+        "Kuvat/pariton.png": (sample_picture([(1, 2, 3), (200, 0, 0)], (16, 15)), "16x15 pixels"),
+        "Kuvat/pariton.ico": (sample_icon([(16, 16), (33, 33)]), "33x33 pixels"),
         "Data2/Asetukset.dat": (good_settings.replace(b"50", b"kova"), "convert"),
         "Data3/Asetukset.dat": (good_settings[:-6], "8 lines"),
         "Data2/Topten.dat": (b"".join(line.encode() + b"\r\n" for line in good_list), "result"),

@@ -79,10 +79,6 @@ TEST(Panels, GrossEstimatesAndNetOfEachKind) {
     struct Tapaus { const char* nimi; Rakennus rakennus; Byte taso; const char* vuodenaika;
                     void (*aseta)(Muuttujat&); const char* teksti; };
     const Tapaus tapaukset[] = {
-        {"dairy", Meijeri, 2, "Kesä",
-         [](Muuttujat& m) { m.Tulo[Juusto] = 1000; m.Työ[Meijerityöntekijä] = 1; m.Palkka[Meijerityöntekijä] = 5000; },
-         "Meijerin tämän kk:n tuotto: \r\nBruttotuotto :1000/kk\r\nSähkölasku arvio : 21.6\r\n"
-         "Arvioitu vesilasku: 21.84\r\nNettotuotto : -4043.44 /kk\r\n"},
         // The panel estimates the sewing room's electricity at 0.035.
         {"sewing room", Ompelimo, 1, "Kesä", [](Muuttujat&) {},
          "Ompelimon tämän kk:n tuotto: \r\nBruttotuotto :0/kk\r\nSähkölasku arvio : 1.26\r\n"

@@ -1,17 +1,18 @@
-// The building screen: prices and days of each target, ordering and its refusals in their order.
+// The building screen: prices and days of each target, ordering and its refusals in their order; and the work
+// orders' day: the one draw of boards, the carpenters and the completion lines.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "buildings/rakennukset.h"
 #include "buildings/rakentaminen.h"
+#include "buildings/taulut/rakennuskatalogi.h"
 #include "core/vikatila.h"
 #include "tuki/testipeli.h"
 
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
 constexpr std::size_t NAVETTA = Työmaa(Navetta), SIILO = Työmaa(Siilo), VARASTO = Työmaa(Varasto);
 
 // A farm with sound on, plenty of money, some pasture and the building screen open.
@@ -70,8 +71,7 @@ TEST(Catalogue, StepperMovesAlongTheRowOnlyAndSoundsOnlyWhenItMoves) {
     EXPECT_EQ(t.r().määrä, 50);
     EXPECT_TRUE(t.Tapahtumat().empty());
     for (int i = 0; i < 3; ++i) AskelMäärä(t.peli, 1);
-    EXPECT_EQ(t.r().määrä, 1000);
-    EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"ÄÄNI|siirto", "ÄÄNI|siirto"}));
+    EXPECT_EQ(std::tuple(t.r().määrä, t.Tapahtumat()), std::tuple(1000, (Tapahtumat{"ÄÄNI|siirto", "ÄÄNI|siirto"})));
 }
 
 TEST(Ordering, ExactMoneyBuysAndLessIsRefusedWithTheShortfallUnnarrowed) {
@@ -89,11 +89,9 @@ TEST(Ordering, ExactMoneyBuysAndLessIsRefusedWithTheShortfallUnnarrowed) {
         t.Valitse(Saha);
         TilaaKohde(t.peli);
         if (!c.viesti) {
-            EXPECT_EQ(t.m.Raha, 0);
-            EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|siirto"});
+            EXPECT_EQ(std::tuple(t.m.Raha, t.Tapahtumat()), std::tuple(0, Tapahtumat{"ÄÄNI|siirto"}));
         } else {
-            EXPECT_EQ(t.m.Raha, c.raha);
-            EXPECT_EQ(t.m.RakAika[Saha], 0);
+            EXPECT_EQ(std::tuple(t.m.Raha, t.m.RakAika[Saha]), std::tuple(c.raha, 0));
             EXPECT_EQ(t.Tapahtumat(),
                       (Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|Rahasi eivät riitä!\\n\\n" + std::string(c.viesti) + "|vastattu"}));
         }
@@ -115,34 +113,13 @@ TEST(Ordering, AnOrderPaysDeductsATenthAndShowsItsDays) {
         t.m.PakkaamoMax = 4000;
         t.Valitse(c.kohde, c.askel);
         TilaaKohde(t.peli);
-        EXPECT_EQ(t.m.Raha, 1000000 - c.hinta) << c.kohde;
-        EXPECT_EQ(t.m.Verovähennykset, 7 + c.vähennys) << c.kohde;
-        EXPECT_EQ(t.m.RakAika[c.kohde], c.päivät) << c.kohde;
-        EXPECT_EQ(t.m.RakTilaus[c.kohde], c.tilaus) << c.kohde;
+        EXPECT_EQ(std::tuple(t.m.Raha, t.m.Verovähennykset, t.m.RakAika[c.kohde], t.m.RakTilaus[c.kohde]),
+                  std::tuple(1000000 - c.hinta, 7 + c.vähennys, c.päivät, c.tilaus)) << c.kohde;
         EXPECT_EQ(t.r().päivät[c.kohde], std::to_string(c.päivät) + " päivää");
         EXPECT_EQ(t.r().info, TEKSTI_RAKENTEILLA);
         // The packing plant starts from its opening figures as soon as it is ordered.
         EXPECT_EQ(t.m.PakkaamoMax, c.kohde == Pakkaamo ? 1000 : 4000);
     }
-}
-
-TEST(Ordering, StoreOrdersStackAtHalfTheDaysAndDeliverTogether) {
-    Tila t;
-    t.m.Koko_Varasto = 200;
-    AvaaRakennukset(t.peli);
-    t.Valitse(VARASTO);
-    TilaaKohde(t.peli);
-    EXPECT_EQ(t.r().Kesto, 15);  // worked out again for the running order
-    TilaaKohde(t.peli);
-    EXPECT_EQ(t.m.RakAika[VARASTO], 45);
-    EXPECT_EQ(t.m.RakTilaus[VARASTO], 100);
-    for (int päivä = 0; päivä < 45; ++päivä) {
-        EXPECT_EQ(t.m.Koko_Varasto, 200);
-        t.peli.arvonta.Jonoon(0);
-        TyömaaPäivä(t.peli);
-    }
-    EXPECT_EQ(t.m.Koko_Varasto, 300);
-    EXPECT_EQ(t.r().varastoz, "200");  // the size shown waits for the screen to open again
 }
 
 TEST(Ordering, RefusalsComeInTheirOrderAndChangeNothing) {
@@ -178,12 +155,10 @@ TEST(Ordering, RefusalsComeInTheirOrderAndChangeNothing) {
         t.Valitse(c.kohde);
         const Muuttujat ennen = t.m;
         TilaaKohde(t.peli);
-        EXPECT_EQ(t.Tapahtumat(), c.odotus) << c.nimi;
-        EXPECT_EQ(t.m.Raha, ennen.Raha) << c.nimi;
-        EXPECT_EQ(t.m.RakAika, ennen.RakAika) << c.nimi;
-        EXPECT_EQ(t.m.RakTilaus, ennen.RakTilaus) << c.nimi;
-        EXPECT_EQ(t.m.Verovähennykset, ennen.Verovähennykset) << c.nimi;
-        EXPECT_EQ(t.r().info == TEKSTI_PARHAILLAAN, std::string(c.nimi) == "running order") << c.nimi;
+        EXPECT_EQ(std::tuple(t.Tapahtumat(), t.m.Raha, t.m.RakAika, t.m.RakTilaus, t.m.Verovähennykset,
+                             t.r().info == TEKSTI_PARHAILLAAN),
+                  std::tuple(c.odotus, ennen.Raha, ennen.RakAika, ennen.RakTilaus, ennen.Verovähennykset,
+                             std::string(c.nimi) == "running order")) << c.nimi;
     }
 }
 
@@ -197,8 +172,7 @@ TEST(Ordering, StackedStoreOrderPastTheWidthFailsWithoutPaying) {
     } catch (const Vika& v) {
         EXPECT_EQ(v.Numero(), VIKA_YLIVUOTO);
     }
-    EXPECT_EQ(t.m.Raha, 1000000);
-    EXPECT_EQ(t.m.RakTilaus[NAVETTA], 0);
+    EXPECT_EQ(std::tuple(t.m.Raha, t.m.RakTilaus[NAVETTA]), std::tuple(1000000, 0));
 }
 
 TEST(DayLabels, StarsLockTheirBuildingsOverAnyDayCount) {
@@ -220,9 +194,8 @@ TEST(DayLabels, StarsLockTheirBuildingsOverAnyDayCount) {
         AvaaRakennukset(t.peli);
         for (std::size_t i = 0; i < RAKENNUKSIA; ++i) {
             const bool lukittu = std::find(c.lukitut.begin(), c.lukitut.end(), i) != c.lukitut.end();
-            EXPECT_EQ(t.r().päivät[i] == "Lukittu", lukittu) << int(c.tähdet) << " " << i;
-            EXPECT_EQ(t.r().päivätPunaisella[i], lukittu) << int(c.tähdet) << " " << i;
-            EXPECT_EQ(t.r().päivätNäkyvät[i], lukittu || i == Saha) << int(c.tähdet) << " " << i;
+            EXPECT_EQ(std::tuple(t.r().päivät[i] == "Lukittu", t.r().päivätPunaisella[i], t.r().päivätNäkyvät[i]),
+                      std::tuple(lukittu, lukittu, lukittu || i == Saha)) << int(c.tähdet) << " " << i;
         }
         EXPECT_EQ(t.r().päivät[Saha] == "12 päivää", c.tähdet >= 2 || !c.lukitus) << int(c.tähdet);
         EXPECT_EQ(t.r().päivät[NAVETTA], "3 päivää");
@@ -235,6 +208,72 @@ TEST(DayLabels, StarsLockTheirBuildingsOverAnyDayCount) {
     EXPECT_FALSE(t.r().päivätNäkyvät[Saha]);
     EXPECT_FALSE(t.r().päivätPunaisella[Saha]);
     EXPECT_EQ(t.r().päivät[Saha], "");
+}
+
+// A farm with no building and no order.
+struct Työmaalla : testi::Testipeli {
+    Työmaalla() {
+        Aloita();
+        m.RakAika.fill(0);
+        m.RakTilaus.fill(0);
+        m.Rak.fill(0);
+        Tapahtumat();
+    }
+};
+
+TEST(WorkOrders, CarpentersBurnBoardsOnlyAboveTheDaysUseAndWithDaysToSpare) {
+    // r = 0.5 gives 5 + Int(5 x 0.5) = 7 boards a carpenter.
+    struct Tapaus { const char* nimi; bool laudat; Long kirvesmiehiä; Integer aika; Single lautaa;
+                    Integer aikaJälkeen; Single lautaaJälkeen; };
+    const Tapaus tapaukset[] = {
+        {"one day left: plain count", true, 3, 1, 100, 0, 100},
+        {"two days, three carpenters", true, 3, 2, 100, 0, 79},
+        {"boards equal to the use", true, 1, 10, 7, 9, 7},
+        {"one board above", true, 1, 10, 8, 8, 1},
+        {"boards run out in the loop", true, 3, 10, 15, 7, 1},
+        {"boards not given", false, 3, 10, 100, 9, 100},
+        {"no carpenter", true, 0, 10, 100, 9, 100},
+    };
+    for (const Tapaus& c : tapaukset) {
+        Työmaalla t;
+        t.m.LautaRakennukseen = c.laudat;
+        t.m.Työ[Kirvesmies] = c.kirvesmiehiä;
+        t.m.Var[Lauta] = c.lautaa;
+        t.m.RakAika[Meijeri] = c.aika;
+        t.m.RakTilaus[Meijeri] = 1;
+        t.peli.arvonta.Jonoon(0.5);
+        TyömaaPäivä(t.peli);
+        EXPECT_EQ(std::tuple(t.m.RakAika[Meijeri], t.m.Var[Lauta], t.m.Rak[Meijeri]),
+                  std::tuple(c.aikaJälkeen, c.lautaaJälkeen, c.aikaJälkeen == 0 ? 1 : 0)) << c.nimi;
+    }
+}
+
+TEST(WorkOrders, OneDrawServesEveryOrderAndCompletionsAreListedStoresFirst) {
+    Työmaalla t;
+    t.m.LautaRakennukseen = true;
+    t.m.Työ[Kirvesmies] = 1;
+    t.m.Var[Lauta] = 100;
+    t.m.Koko_Navetta = 10;
+    t.m.Koko_Siilo = 200;
+    // A building before the stores in the family, stores finishing the same day.
+    const std::size_t navetta = Työmaa(Navetta), siilo = Työmaa(Siilo), varasto = Työmaa(Varasto);
+    t.m.RakAika[Pakkaamo] = 1;  t.m.RakTilaus[Pakkaamo] = 1;
+    t.m.RakAika[Saha] = 5;      t.m.RakTilaus[Saha] = 1;  t.m.Rak[Saha] = 2;
+    t.m.RakAika[siilo] = 2;     t.m.RakTilaus[siilo] = 500;
+    t.m.RakAika[navetta] = 1;   t.m.RakTilaus[navetta] = 10;
+    t.m.RakAika[varasto] = 8;   t.m.RakTilaus[varasto] = 50;
+    t.peli.arvonta.Jonoon(0.99);  // 9 boards for the day
+    t.peli.arvonta.Jonoon(0.0);   // left for whatever draws next
+    TyömaaPäivä(t.peli);
+    // Siilo, Saha and Varasto burned 9 boards each; Navetta and Pakkaamo had one day left.
+    EXPECT_EQ(std::tuple(t.m.Var[Lauta], t.m.RakAika[Saha], t.m.RakAika[varasto], t.m.Koko_Navetta, t.m.Koko_Siilo,
+                         t.m.Rak[Pakkaamo]),
+              std::tuple(73, 3, 6, 20, 700, 1));
+    EXPECT_EQ(t.peli.arvonta.U(0, 9), 0);  // only one draw was taken
+    EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"LISTA|Navettasi laajennustyö on nyt valmis!",
+                                          "LISTA|Siilosi laajennustyö on nyt valmis!",
+                                          "LISTA|Rakennuksesi pakkaamo on nyt valmis!"}));
+    EXPECT_TRUE(t.peli.näkymä.ListaNäkyvissä);
 }
 
 }  // namespace

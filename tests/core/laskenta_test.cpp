@@ -1,8 +1,10 @@
-// The arithmetic of the game: widths, rounding to even, overflow, Str and the reading of numbers.
+// The arithmetic and the draws of the game: widths, rounding to even, overflow, Str, the reading of numbers,
+// and the fixed sequence of an unseeded run behind the queue of given values.
 #include <gtest/gtest.h>
 
 #include <cmath>
 
+#include "core/arvonta.h"
 #include "core/laskenta.h"
 
 namespace tanhua {
@@ -59,9 +61,7 @@ TEST(Arithmetic, ValuesOutsideTheirWidthAreFailureSix) {
 }
 
 TEST(Arithmetic, IntFixIntegerDivisionAndMod) {
-    EXPECT_EQ(Int(2.7), 2);
-    EXPECT_EQ(Int(-2.5), -3);
-    EXPECT_EQ(Fix(-2.5), -2);
+    EXPECT_EQ(std::tuple(Int(2.7), Int(-2.5), Fix(-2.5)), std::tuple(2, -3, -2));
     struct Tapaus { double a, b; long long jako, jäännös; };
     for (const Tapaus& t : {Tapaus{7, 2, 3, 1}, {-7, 2, -3, -1}, {7.5, 2, 4, 0}, {2.5, 1.5, 1, 0},
                             {6.5, 2.5, 3, 0}, {9, -4, -2, 1}, {-9, -4, 2, -1}}) {
@@ -73,20 +73,15 @@ TEST(Arithmetic, IntFixIntegerDivisionAndMod) {
 }
 
 TEST(Arithmetic, StrWritesNumbersAsMessagesShowThem) {
-    EXPECT_EQ(Str(5), " 5");
-    EXPECT_EQ(Str(-5), "-5");
-    EXPECT_EQ(Str(static_cast<Integer>(-32768)), "-32768");
+    EXPECT_EQ(std::tuple(Str(5), Str(-5), Str(static_cast<Integer>(-32768))), std::tuple(" 5", "-5", "-32768"));
     struct Tapaus { float x; const char* odotettu; };
     for (const Tapaus& t : {Tapaus{0.5f, " .5"}, {-0.5f, "-.5"}, {1234567.0f, " 1234567"},
                             {12345678.0f, " 1.234568E+07"}, {3.14159265f, " 3.141593"}, {10000.0f, " 10000"},
                             {0.1f, " .1"}, {1e-5f, " 1E-05"}, {0.0001f, " .0001"}, {-1.5f, "-1.5"}, {0.0f, " 0"}}) {
         EXPECT_EQ(Str(t.x), t.odotettu);
     }
-    EXPECT_EQ(Str(0.1), " .1");
-    EXPECT_EQ(Str(123456789012.0), " 123456789012");
-    EXPECT_EQ(Str(1.0 / 3.0), " .333333333333333");
-    EXPECT_EQ(Suoraan(Str(42)), "42");
-    EXPECT_EQ(Suoraan(Str(-42)), "-42");
+    EXPECT_EQ(std::tuple(Str(0.1), Str(123456789012.0), Str(1.0 / 3.0), Suoraan(Str(42)), Suoraan(Str(-42))),
+              std::tuple(" .1", " 123456789012", " .333333333333333", "42", "-42"));
 }
 
 TEST(Arithmetic, ReadingNumbersFromText) {
@@ -97,8 +92,19 @@ TEST(Arithmetic, ReadingNumbersFromText) {
         EXPECT_EQ(Val(t.teksti), t.val) << t.teksti;
         EXPECT_EQ(VikaNumero([&] { TekstiLuvuksi(t.teksti); }), t.vika) << t.teksti;
     }
-    EXPECT_EQ(TekstiLuvuksi("1.5E+2"), 150);
-    EXPECT_EQ(VikaNumero([] { TekstiTotuudeksi("kyllä"); }), 13);
+    EXPECT_EQ(std::tuple(TekstiLuvuksi("1.5E+2"), VikaNumero([] { TekstiTotuudeksi("kyllä"); })), std::tuple(150, 13));
+}
+
+TEST(Draws, AnUnseededRunAlwaysDrawsTheSameSequenceAfterTheQueue) {
+    Arvonta a;
+    a.Jonoon(0.25);
+    a.Jonoon(0.0);
+    EXPECT_EQ(a.r(), 0.25);
+    EXPECT_EQ(a.r(), 0.0);
+    // The generator wasn't touched by the queue.
+    EXPECT_FLOAT_EQ(a.r(), 0.7055475f);
+    EXPECT_FLOAT_EQ(a.r(), 0.5334240f);
+    EXPECT_FLOAT_EQ(a.r(), 0.5795186f);
 }
 
 }  // namespace

@@ -11,10 +11,7 @@ namespace {
 
 using testi::Testipeli;
 
-// A farm just started at the given difficulty, Normaali unless told.
-struct Tila : testi::Testipeli {
-    explicit Tila(int taso = 1) { Aloita("Testi", taso); }
-};
+using Tila = testi::Aloitettu;
 
 TEST(DayStep, TheAccountantSellsOnTheSaleDaysOfTheSetting) {
     struct Tapaus { int rulla; std::vector<int> päivät; };
@@ -42,8 +39,7 @@ TEST(DayStep, TheHerdGivesItsOutputBeforeItEats) {
     t.m.El[Nauta][Naaras] = 2;
     for (int i = 0; i < 500; ++i) t.peli.arvonta.Jonoon(0.0);
     SeuraavaPäivä(t.peli);
-    EXPECT_EQ(t.m.Var[Maito], 6);
-    EXPECT_EQ(t.m.El[Nauta][Naaras], 1);
+    EXPECT_EQ(std::tuple(t.m.Var[Maito], t.m.El[Nauta][Naaras]), std::tuple(6, 1));
 }
 
 TEST(DayStep, WeekendsAndTheTurnOfMonthAndYear) {

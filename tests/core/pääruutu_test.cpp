@@ -14,8 +14,7 @@ TEST(MainScreen, MoneyAndTemperatureFormats) {
                             {10000.5, "10000", " 10000.5"}, {10001.5, "10002", " 10001.5"},
                             {1000000, "1 Miljoonaa", "1 Miljoonaa"}, {1234567, "1.23 Miljoonaa", "1.23 Miljoonaa"},
                             {999999999, "1000 Miljoonaa", "1000 Miljoonaa"}, {2460000000.0, "2.5 Miljardia", "2.5 Miljardia"}}) {
-        EXPECT_EQ(RahaMuoto(c.raha), c.pääruutu) << c.raha;
-        EXPECT_EQ(RahaKylttiMuoto(c.raha), c.kyltti) << c.raha;
+        EXPECT_EQ(std::tuple(RahaMuoto(c.raha), RahaKylttiMuoto(c.raha)), std::tuple(c.pääruutu, c.kyltti)) << c.raha;
     }
     struct Lämpö { int t; const char* teksti; int r, g, b; };
     for (const Lämpö& c : {Lämpö{20, "+ 20 °c", 225, 80, 40}, {0, "+ 0 °c", 125, 120, 0},
@@ -26,8 +25,7 @@ TEST(MainScreen, MoneyAndTemperatureFormats) {
 }
 
 TEST(MainScreen, GaugesAndTheirGuards) {
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     t.m.Var[Rehu] = 50;
     t.m.Var[Maito] = 150.5f;  // the load is rounded before the percentage
     t.m.El[Kana][Naaras] = 3;

@@ -8,16 +8,11 @@
 namespace tanhua {
 namespace {
 
-// A farm just started at the given difficulty, Normaali unless told.
-struct Tila : testi::Testipeli {
-    explicit Tila(int taso = 1) { Aloita("Testi", taso); }
-};
+using Tila = testi::Aloitettu;
 
 // The five draws of a day, in their order: temperature step, return to the band, cloud step,
 // thunder (0 of 12), hail (0 of 25).
-struct Päivänsää {
-    double lämpö, paluu, pilvi, ukkonen = 0.5, rakeet = 0.5;
-};
+struct Päivänsää { double lämpö, paluu, pilvi, ukkonen = 0.5, rakeet = 0.5; };
 
 void Keli(testi::Testipeli& t, const Päivänsää& d) {
     for (double r : {d.lämpö, d.paluu, d.pilvi, d.ukkonen, d.rakeet}) t.peli.arvonta.Jonoon(r);

@@ -34,8 +34,7 @@ TEST(Stars, TheThirdStarAsksForItsWholeRow) {
         {"no stars without the star system", [](Muuttujat& m) { m.TähtiLukitus = false; }, false},
     };
     for (const Tapaus& c : tapaukset) {
-        testi::Testipeli t;
-        t.Aloita();
+        testi::Aloitettu t;
         KolmannenTähdenTila(t.m);
         c.muuta(t.m);
         t.m.Raha = 100;
@@ -49,8 +48,7 @@ TEST(Stars, TheThirdStarAsksForItsWholeRow) {
 
 TEST(Stars, OneStarADay) {
     // A farm big enough for every star earns them one a day, prizes 1000, 2000, 3000, 5000, 10000.
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     t.m.El[Kana][Naaras] = 200;
     t.m.Koko_Siilo = t.m.Koko_Varasto = 6000;
     t.m.TyöntekijöitäYht = 10;
@@ -68,8 +66,7 @@ TEST(Stars, OneStarADay) {
 }
 
 TEST(Stars, AClickShowsWhatTheStarAsks) {
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     NäytäTähti(t.peli, 3);
     EXPECT_EQ(t.Tapahtumat(), std::vector<std::string>{
                                   "VIESTI|0|Tähden saavuttamiseen :\\nEläimiä : 50, Siilo : 1000, Varasto : 1000\\n, 3 "

@@ -25,18 +25,6 @@ TEST(FailureReporter, BuildsTheBoxTextLineByLine) {
         väli + "Yritetäänkö jatkaa virhetilanteesta, vai ohitetaanko ongelmakohta?";
     EXPECT_EQ(t.kanavat.viimeisinVikateksti, odotettu);
     EXPECT_EQ(std::tuple(t.m.VikaPaikka, t.m.VikaLaskuri, t.m.VikaJatkuu), std::tuple(std::string(), Long{1}, true));
-    // Opening a save of another version explains the difference instead of the failure's own solution.
-    for (const auto& [tilanteen, versioteksti] : {std::pair{1.4f, true}, {1.5f, false}}) {
-        Testipeli avaus;
-        avaus.m.Versio = 1.5f;
-        avaus.m.TilanteenVersio = tilanteen;
-        avaus.m.VikaPaikka = std::string(paikka::Avaus);
-        VikaTila(avaus.peli, Vika(62, "Input past end of file"));
-        const std::string& teksti = avaus.kanavat.viimeisinVikateksti;
-        EXPECT_EQ(teksti.find("Tämän tanhuan versio on  1.5 ja ladattavan tilanteen data:n mukaan tilanteen "
-                              "versio on  1.4. Joudut") != std::string::npos, versioteksti);
-        EXPECT_EQ(teksti.find("Tiedosto jota avattiin on väärän kokoinen") != std::string::npos, !versioteksti);
-    }
 }
 
 TEST(FailureReporter, WarnsFromTheFifthAndFallsSilentAfterTheEighth) {

@@ -1,8 +1,5 @@
 // The day's head of the events (wage-talk test, one day in 29, the number), the hand-over to the
 // channels, and the caller's demand for protection money.
-#include <cmath>
-#include <string_view>
-
 #include "tapahtumapeli.h"
 
 namespace tanhua {
@@ -11,7 +8,6 @@ namespace {
 using testi::A;
 using testi::Sattuma;
 using testi::T;
-using Tapahtumat = std::vector<std::string>;
 
 // Runs the day's step from the given draws; all of them must be taken.
 void Aja(Sattuma& t, const std::vector<double>& arvot) {
@@ -50,8 +46,7 @@ TEST(Events, WageTalkTestDayDrawAndTheEvent) {
         // A day whose talks run takes the round's 39 draws after the test; none opens a talk (d is N).
         if (c.palkat) arvot.insert(arvot.begin() + 1, 39, .99);
         Aja(t, arvot);
-        EXPECT_EQ(t.m.PalkatYhteensä != 0, c.palkat);
-        EXPECT_EQ(t.Tapahtumat(), c.tapahtumat);
+        EXPECT_EQ(std::tuple(t.m.PalkatYhteensä != 0, t.Tapahtumat()), std::tuple(c.palkat, c.tapahtumat));
         // The picture is cleared once the day's draw hits, told or not.
         const std::string kuva = !c.tapahtumat.empty() ? "Kuvat/sattumat/lakimies.jpg"
                                  : c.arvot.size() > 2  ? ""
@@ -67,35 +62,6 @@ TEST(Events, ALineThenTheWindowThenTheSound) {
     EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"LISTA|rivi", "IKKUNA|Kuvat/sattumat/varkaita.jpg|teksti", "ÄÄNI|Kolina"}));
     EXPECT_TRUE(t.peli.näkymä.ListaNäkyvissä);
     EXPECT_TRUE(t.peli.näkymä.IkkunaNäkyvissä);
-}
-
-TEST(Events, TheRealGeneratorTriesOneDayIn29AndSpreadsTheNumbersEvenly) {
-    Sattuma t;
-    t.peli.asetukset.Äänitehosteet = false;
-    // The head's own draws are the ones taken in this file; the third of a day is the number.
-    std::vector<double> päivän;
-    std::array<int, 62> numerot{};
-    t.peli.arvonta.seuranta = [&](double r, const std::source_location& paikka) {
-        if (std::string_view(paikka.file_name()).ends_with("events/sattumat.cpp")) päivän.push_back(r);
-    };
-    constexpr int PÄIVIÄ = 290000;
-    int yritetty = 0;
-    for (int i = 0; i < PÄIVIÄ; ++i) {
-        päivän.clear();
-        t.m.Raha = 0;
-        t.m.El = {};
-        Sattumat(t.peli);
-        ASSERT_GE(päivän.size(), 2u);
-        if (päivän.size() < 3) continue;
-        ++yritetty;
-        ++numerot[static_cast<std::size_t>(std::floor(60 * päivän[2])) + 1];
-    }
-    const double odotettu = PÄIVIÄ / 29.0, hajonta = std::sqrt(PÄIVIÄ * (1 / 29.0) * (28 / 29.0));
-    EXPECT_NEAR(yritetty, odotettu, 4 * hajonta);
-    EXPECT_EQ(numerot[0], 0);
-    EXPECT_EQ(numerot[61], 0);
-    const double p = 1 / 60.0;
-    for (int n = 1; n <= 60; ++n) EXPECT_NEAR(numerot[n], yritetty * p, 4 * std::sqrt(yritetty * p * (1 - p))) << n;
 }
 
 // A farm the caller calls on: every gate one above its bound.

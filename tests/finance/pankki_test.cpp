@@ -1,5 +1,5 @@
-// The bank screen: the loan limit, loans, deposits, the premiums of a new farm, the sheets and Esc.
-// Repayment, the insurance sheet and the presses a player couldn't make are played in the bank scenario.
+// The bank screen: the loan limit, loans, deposits, the sheets and Esc. Repayment, the insurance sheet and
+// the presses a player couldn't make are played in the bank scenario; the new farm's premiums in the month's bill.
 #include <gtest/gtest.h>
 
 #include "finance/pankki.h"
@@ -10,7 +10,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 // A farm with only what the limit counts set by hand: a limit of 30 x (6 + 100 + 100) = 6180.
 struct Pankissa : Testipeli {
@@ -60,14 +59,12 @@ TEST(Bank, ALoanIsGrantedUpToTheLimitAndOnlyForMoreThanNothing) {
         if (c.viesti.empty()) {
             const Single s = c.summa == "1" ? 1 : 6180;
             EXPECT_EQ(t.m.Raha, 1000 + s) << "the cents of the cash are dropped";
-            EXPECT_EQ(t.m.Laina, s);
-            EXPECT_EQ(r.teksti, "Pankki lainasi sinulle juuri " + Str(s) + " rahaa.");
-            EXPECT_EQ(r.lainaz, Luku(s));
+            EXPECT_EQ(std::tuple(t.m.Laina, r.teksti, r.lainaz),
+                      std::tuple(s, "Pankki lainasi sinulle juuri " + Str(s) + " rahaa.", Luku(s)));
             EXPECT_FALSE(r.Command8);
             EXPECT_TRUE(t.Tapahtumat().empty());
         } else {
-            EXPECT_EQ(t.m.Raha, 1000.75f) << c.summa;
-            EXPECT_EQ(t.m.Laina, 0) << c.summa;
+            EXPECT_EQ(std::tuple(t.m.Raha, t.m.Laina), std::tuple(1000.75f, 0)) << c.summa;
             EXPECT_EQ(t.Tapahtumat(), (Tapahtumat{"ÄÄNI|virhe", c.viesti}));
         }
     }
@@ -85,8 +82,7 @@ TEST(Bank, PeriodAndDifficultyGiveRateAndMonths) {
         EXPECT_EQ(t.peli.pankkiruutu.aikaz, c.aika);
         KirjoitaSumma(t.peli, "1000");
         VahvistaLappu(t.peli);
-        EXPECT_EQ(t.m.LainaKorko, c.korko);
-        EXPECT_EQ(t.peli.pankkiruutu.Maksuaikaz, std::to_string(c.kk));
+        EXPECT_EQ(std::tuple(t.m.LainaKorko, t.peli.pankkiruutu.Maksuaikaz), std::tuple(c.korko, std::to_string(c.kk)));
     }
 }
 
@@ -105,26 +101,14 @@ TEST(Bank, DepositLimitsAndCents) {
         EXPECT_EQ(t.peli.pankkiruutu.summa, "500") << "half the cash, whole";
         KirjoitaSumma(t.peli, c.summa);
         VahvistaLappu(t.peli);
-        EXPECT_EQ(t.m.Raha, c.rahaJälkeen) << c.summa;
-        EXPECT_EQ(t.m.Tili, c.tiliJälkeen) << c.summa;
+        EXPECT_EQ(std::tuple(t.m.Raha, t.m.Tili), std::tuple(c.rahaJälkeen, c.tiliJälkeen)) << c.summa;
         if (!c.viesti.empty()) { EXPECT_EQ(t.Tapahtumat().back(), "VIESTI|0|" + c.viesti + "|vastattu"); }
     }
     Pankissa t;
     t.m.Tili = 300.6f;
     t.m.Raha = 499.99f;
     NostaTalletukset(t.peli);
-    EXPECT_EQ(t.m.Raha, 799);
-    EXPECT_EQ(t.m.Tili, 0);
-}
-
-TEST(Bank, ANewFarmHasItsPremiumsWorkedOut) {
-    Testipeli t;
-    t.Aloita();
-    const auto& maksu = t.m.Pankki.Vakumaksu;
-    EXPECT_EQ(maksu[VakuutusEläin], "20");
-    EXPECT_EQ(maksu[VakuutusTyö], "100");
-    EXPECT_EQ(maksu[VakuutusTarvike], "0");
-    EXPECT_NE(maksu[VakuutusPalo], "");
+    EXPECT_EQ(std::tuple(t.m.Raha, t.m.Tili), std::tuple(799, 0));
 }
 
 TEST(Bank, OpeningShowsNoSheetAndEscLeavesAFreshOne) {

@@ -25,18 +25,8 @@ struct Tila : testi::Testipeli {
 };
 
 TEST(Forester, PassesTakeTheirDrawsInTheRuleOrder) {
-    struct Tapaus {
-        const char* nimi;
-        bool viikonloppu, ylityö, kone;
-        int työ, moti;
-        float metsä;
-        int jäljellä;
-        std::vector<double> r;
-        // expected
-        float puu;
-        int jäljelläNyt, hakattu;
-        float ylityöpalkat, metsäNyt, joutomaa;
-        Rivit lista;
+    struct Tapaus { const char* nimi; bool viikonloppu, ylityö, kone; int työ, moti; float metsä; int jäljellä;
+        std::vector<double> r; float puu; int jäljelläNyt, hakattu; float ylityöpalkat, metsäNyt, joutomaa; Rivit lista;
     };
     const std::vector<Tapaus> tapaukset{
         {"plain weekday pass", false, false, false, 1, 0, 5, 100, {0.6}, 4, 99, 1, 0, 5, 0, {}},
@@ -69,25 +59,15 @@ TEST(Forester, PassesTakeTheirDrawsInTheRuleOrder) {
         t.m.MetsääJäljellä = c.jäljellä;
         t.Arvonnat(c.r);
         Metsänhakkuu(t.peli);
-        EXPECT_EQ(t.m.Var[Puu], c.puu) << c.nimi;
-        EXPECT_EQ(t.m.MetsääJäljellä, c.jäljelläNyt) << c.nimi;
-        EXPECT_EQ(t.m.PuutaHakattu, c.hakattu) << c.nimi;
-        EXPECT_EQ(t.m.YlityöPalkat, c.ylityöpalkat) << c.nimi;
-        EXPECT_EQ(std::pair(t.m.Metsä, t.m.Joutomaa), std::pair(c.metsäNyt, c.joutomaa)) << c.nimi;
-        EXPECT_EQ(t.peli.näkymä.Lista, c.lista) << c.nimi;
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u) << c.nimi;
+        EXPECT_EQ(std::tuple(t.m.Var[Puu], t.m.MetsääJäljellä, t.m.PuutaHakattu, t.m.YlityöPalkat,
+                             std::pair(t.m.Metsä, t.m.Joutomaa), t.peli.näkymä.Lista, t.peli.arvonta.JonossaJäljellä()),
+                  std::tuple(c.puu, c.jäljelläNyt, c.hakattu, c.ylityöpalkat, std::pair(c.metsäNyt, c.joutomaa),
+                             c.lista, 0u)) << c.nimi;
     }
 }
 
 TEST(Forester, ReplantingTestsTheMoneyBeforeTheLand) {
-    struct Tapaus {
-        int metsitä;
-        float raha, joutomaa;
-        int työ;
-        float rahaNyt, joutomaaNyt;
-        Long kulut;
-        Rivit lista;
-    };
+    struct Tapaus { int metsitä; float raha, joutomaa; int työ; float rahaNyt, joutomaaNyt; Long kulut; Rivit lista; };
     for (const Tapaus& c : {
              Tapaus{1, 10000, 5, 2, 7000, 2, 3000, {}},  // two foresters plant three hectares
              Tapaus{1, 1000, 5, 2, 0, 4, 1000, {"Metsän istuttamiseen ei ole varaa."}},
@@ -109,18 +89,8 @@ TEST(Forester, ReplantingTestsTheMoneyBeforeTheLand) {
 }
 
 TEST(Grain, SeasonManureAndPassesMakeTheDaysGrain) {
-    struct Tapaus {
-        const char* nimi;
-        const char* vuodenaika;
-        int lämpötila;
-        bool kastelu;
-        float sade, aurinko;
-        float pelto, lanta;
-        bool lantaPeltoon;
-        std::vector<double> r;
-        float vilja, lantaNyt;
-        Long tuotettu;
-    };
+    struct Tapaus { const char* nimi; const char* vuodenaika; int lämpötila; bool kastelu; float sade, aurinko;
+        float pelto, lanta; bool lantaPeltoon; std::vector<double> r; float vilja, lantaNyt; Long tuotettu; };
     const std::vector<Tapaus> tapaukset{
         // Each pass adds Int(D / 10 + S) × r / 10; 0.25 a pass adds up exactly.
         {"ties round to even", "Kesä", -32, false, 0, 0, 9, 0, false, std::vector<double>(10, 0.5), 2, 0, 2},
@@ -152,8 +122,7 @@ TEST(Grain, SeasonManureAndPassesMakeTheDaysGrain) {
         t.m.LantaPeltoon = c.lantaPeltoon;
         t.Arvonnat(c.r);
         Viljankasvu(t.peli);
-        EXPECT_EQ(t.m.Var[Vilja], c.vilja) << c.nimi;
-        EXPECT_EQ(t.m.ViljaaTuotettu, c.tuotettu) << c.nimi;
+        EXPECT_EQ(std::tuple(t.m.Var[Vilja], t.m.ViljaaTuotettu), std::tuple(c.vilja, c.tuotettu)) << c.nimi;
         EXPECT_FLOAT_EQ(t.m.Var[Lanta], c.lantaNyt) << c.nimi;
         // Winter and a farm without fields take no draw at all.
         const std::size_t jäljellä = (c.pelto <= 0 || std::string(c.vuodenaika) == "Talvi") ? c.r.size() : 0;
@@ -173,8 +142,7 @@ TEST(Grain, TheStoreGateIsStrict) {
         t.m.Pelto = 100;
         t.m.Työ[Metsuri] = 1;
         SeuraavaPäivä(t.peli);
-        EXPECT_EQ(t.m.Var[Puu] > 0, töissä) << maito;
-        EXPECT_EQ(t.m.Var[Vilja] > 0, töissä) << maito;
+        EXPECT_EQ(std::tuple(t.m.Var[Puu] > 0, t.m.Var[Vilja] > 0), std::tuple(töissä, töissä)) << maito;
     }
 }
 

@@ -10,8 +10,6 @@
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
-
 struct Tila : testi::Testipeli {
     Tila() {
         Aloita();
@@ -31,12 +29,7 @@ struct Tila : testi::Testipeli {
 };
 
 TEST(LandTrade, EqualMoneyBuysAndOneShortIsRefused) {
-    struct Tapaus {
-        Integer erä;
-        float raha;
-        float pelto, rahaNyt;
-        Tapahtumat tapahtumat;
-    };
+    struct Tapaus { Integer erä; float raha; float pelto, rahaNyt; Tapahtumat tapahtumat; };
     for (const Tapaus& c : {
              Tapaus{1, 11500, 1, 0, {"ÄÄNI|siirto"}},
              Tapaus{10, 200000, 10, 85000, {"ÄÄNI|siirto"}},
@@ -64,14 +57,8 @@ TEST(LandTrade, SalesAreRefusedInTheirOrder) {
         "Olet rakentanut hevostallisi laitumelle, joten sinun on pakko jättää laidunmaata ainakin 1 hehtaari "
         "myymättä.";
     enum Talli { Ei, Seisoo, Tekeillä };
-    struct Tapaus {
-        Maa maa;
-        float ha;
-        Integer erä;
-        Talli talli;
-        float haNyt;
-        std::string viesti;  // empty for a sale
-    };
+    // viesti: empty for a sale.
+    struct Tapaus { Maa maa; float ha; Integer erä; Talli talli; float haNyt; std::string viesti; };
     for (const Tapaus& c : {
              Tapaus{MaaPelto, 5, 10, Ei, 5, EI_MYYTÄVÄÄ},
              Tapaus{MaaMetsä, 10, 10, Ei, 0, ""},  // all of the forest; the hectare being felled stays
@@ -93,8 +80,7 @@ TEST(LandTrade, SalesAreRefusedInTheirOrder) {
         MyyMaata(t.peli);
         EXPECT_EQ(Hehtaarit(t.m, c.maa), c.haNyt) << c.maa << " " << c.ha;
         EXPECT_EQ(t.m.Raha, c.viesti.empty() ? 1000 + 11500.0f * c.erä : 1000) << c.maa << " " << c.ha;
-        EXPECT_EQ(t.m.MetsääJäljellä, 60);
-        EXPECT_EQ(t.m.Liikevaihto, 0);
+        EXPECT_EQ(std::tuple(t.m.MetsääJäljellä, t.m.Liikevaihto), std::tuple(60, 0));
         const Tapahtumat odotetut = c.viesti.empty() ? Tapahtumat{"ÄÄNI|siirto"}
                                                      : Tapahtumat{"ÄÄNI|virhe", "VIESTI|0|" + c.viesti + "|vastattu"};
         EXPECT_EQ(t.Tapahtumat(), odotetut) << c.maa << " " << c.ha;
@@ -102,12 +88,7 @@ TEST(LandTrade, SalesAreRefusedInTheirOrder) {
 }
 
 TEST(LandTrade, TheCardShowsTaxAndYield) {
-    struct Tapaus {
-        Maa maa;
-        float ha;
-        const char* vuodenaika;
-        std::string vero, tuotto;
-    };
+    struct Tapaus { Maa maa; float ha; const char* vuodenaika; std::string vero, tuotto; };
     for (const Tapaus& c : {Tapaus{MaaPelto, 3, "Kesä", "0.45", "17"}, {MaaPelto, 3, "Talvi", "0.45", "(Talvi!)"},
                             {MaaMetsä, 10, "Talvi", "5", "12"}, {MaaJoutomaa, 15, "Kesä", "2.25", "-"},
                             {MaaLaidun, 0.5f, "Kesä", "0.02", "-"}}) {

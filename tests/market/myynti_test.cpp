@@ -48,9 +48,8 @@ TEST_F(Tuotepeli, CardShowsPriceSeasonOffsetAndTotal) {
         m.Var[c.k] = c.varasto;
         AvaaTuote(t.peli, c.k);
         const std::string nimi = std::string(TUOTETAULU[c.k].avain) + " " + c.kausi + " " + std::to_string(c.varasto);
-        EXPECT_EQ(r.vAika, c.vAika) << nimi;
-        EXPECT_EQ((std::array<double, 3>{r.yhinta, r.Yhthinta, r.kpl}), (std::array<double, 3>{c.yhinta, c.yht, c.varasto})) << nimi;
-        EXPECT_EQ(r.ostaKäytössä, c.k == Rehu) << nimi;
+        EXPECT_EQ(std::tuple(r.vAika, (std::array<double, 3>{r.yhinta, r.Yhthinta, r.kpl}), r.ostaKäytössä),
+                  std::tuple(c.vAika, (std::array<double, 3>{c.yhinta, c.yht, c.varasto}), c.k == Rehu)) << nimi;
     }
     AvaaTuote(t.peli, Muna);
     EXPECT_EQ(r.nimi, "Kananmuna");
@@ -83,8 +82,7 @@ TEST_F(Tuotepeli, SellingAllPaysTheCardsTotalAndThePackingPlantWhileUnderItsLimi
         MyyKaikki(t.peli);
         EXPECT_EQ((std::array<double, 4>{m.Raha, m.Liikevaihto, m.Tulo[Maito], m.Var[Maito]}),
                   (std::array<double, 4>{500, 500, 500, 0}));
-        EXPECT_EQ(m.PakkaamoTulot, c.tulot);
-        EXPECT_EQ(m.PakkaamoKäsitelty, c.käsiteltyJälkeen);
+        EXPECT_EQ(std::tuple(m.PakkaamoTulot, m.PakkaamoKäsitelty), std::tuple(c.tulot, c.käsiteltyJälkeen));
         EXPECT_EQ(r.Yhthinta + r.varasto[Maito], 0) << "the card and the shelf show the empty stock";
     }
     // Feed goes by the silo's content, leaves the plant out and draws the card anew.
@@ -93,8 +91,7 @@ TEST_F(Tuotepeli, SellingAllPaysTheCardsTotalAndThePackingPlantWhileUnderItsLimi
     m.Raha = 0;
     AvaaTuote(t.peli, Rehu);
     MyyKaikki(t.peli);
-    EXPECT_EQ(m.Raha + m.Tulo[Rehu], 2000);
-    EXPECT_EQ(m.PakkaamoKäsitelty, 100);
+    EXPECT_EQ(std::tuple(m.Raha + m.Tulo[Rehu], m.PakkaamoKäsitelty), std::tuple(2000, 100));
     EXPECT_EQ(r.Yhthinta, 5000) << "the cost of a full silo";
 }
 

@@ -10,7 +10,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 std::string Nimitiedosto(int nimiä) {
     std::string s = "Ravihevosten nimet\r\n";
@@ -48,8 +47,7 @@ TEST(Races, TheNamesFileGivesItsBoxesAndTheRacesTakeThreeDrawsAPlace) {
         const bool luetaan = c.laatikot != Tapahtumat{EI};
         if (luetaan) t.Jonoon(ARVONTOJA, 0.99);
         ValitseVetolaji(t.peli, vetolaji::V75);
-        EXPECT_EQ(t.Tapahtumat(), c.laatikot) << c.rivejä;
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u) << c.rivejä;
+        EXPECT_EQ(std::tuple(t.Tapahtumat(), t.peli.arvonta.JonossaJäljellä()), std::tuple(c.laatikot, 0u)) << c.rivejä;
         EXPECT_EQ(t.r().Vetolaji, luetaan ? "V75" : "Trio") << "a refusal changes nothing";
         if (!luetaan) continue;
         EXPECT_EQ(t.r().NimiMäärä, c.nimiMäärä) << c.rivejä;
@@ -72,12 +70,10 @@ TEST(Races, ANameOnTheRowsIsDrawnAgainUnlessNoOtherCanCome) {
         t.Jonoon(ARVONTOJA - 3, 0.5);
         ValitseVetolaji(t.peli, vetolaji::Trio);
         EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u) << näkyvissä;
-        EXPECT_EQ(t.r().LähtöNimet[0][0], näkyvissä == 1 ? "Heppa1" : "Heppa0");
-        EXPECT_EQ(t.r().LähtöKertoimet[0][0], "1.00");
-        EXPECT_EQ(t.r().LähtöKertoimet[0][1], "2.40");
+        EXPECT_EQ(std::tuple(t.r().LähtöNimet[0][0], t.r().LähtöKertoimet[0][0], t.r().LähtöKertoimet[0][1]),
+                  std::tuple(näkyvissä == 1 ? "Heppa1" : "Heppa0", "1.00", "2.40"));
     }
-    EXPECT_EQ(Kerrointeksti(2, 8), "3.80");
-    EXPECT_EQ(Kerrointeksti(1, 1), "2.10");
+    EXPECT_EQ(std::tuple(Kerrointeksti(2, 8), Kerrointeksti(1, 1)), std::tuple("3.80", "2.10"));
 }
 
 TEST(Races, MarkingByKind) {
@@ -97,10 +93,8 @@ TEST(Races, MarkingByKind) {
     t.r().RiviNro = 3;
     MerkitseHevonen(t.peli, 6);
     ValitseKerroin(t.peli, 1);
-    EXPECT_EQ(t.r().Ruutu[6], "X");
-    EXPECT_EQ(t.r().Ruutu[1], "");
-    EXPECT_EQ(t.r().LähtöMerkit[3][6], "X");
-    EXPECT_EQ(t.r().LähtöMerkit[3][5], "");
+    EXPECT_EQ(std::tuple(t.r().Ruutu[6], t.r().Ruutu[1], t.r().LähtöMerkit[3][6], t.r().LähtöMerkit[3][5]),
+              std::tuple("X", "", "X", ""));
     t.r().Vetolaji = vetolaji::Voittajaveto;
     ValitseKerroin(t.peli, 1);
     EXPECT_EQ(t.r().Ruutu[1] + t.r().Ruutu[6], "X");
@@ -119,8 +113,7 @@ TEST(Races, StakeStepsAndTheirFloorAndCeiling) {
         Ravissa t;
         t.r().Panos = c.alku;
         for (int i = 0; i < c.painalluksia; ++i) c.ylös ? NostaPanosta(t.peli) : LaskePanosta(t.peli);
-        EXPECT_EQ(t.r().Panos, c.loppu) << c.alku << " " << c.ylös;
-        EXPECT_EQ(t.r().Panosz, c.laatikko) << c.alku << " " << c.ylös;
+        EXPECT_EQ(std::tuple(t.r().Panos, t.r().Panosz), std::tuple(c.loppu, c.laatikko)) << c.alku << " " << c.ylös;
     }
 }
 

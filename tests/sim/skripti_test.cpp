@@ -1,6 +1,7 @@
 // The headless runner: its words, its errors and its exit status, and the scenario transcripts.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -66,7 +67,8 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"days 1\n", "line 1: days needs a farm"},
                             {"set Raha 5\n", "line 1: set Raha needs a farm"},
                             {"call SeuraavaPäivä\n", "line 1: call SeuraavaPäivä needs a farm"},
-                            {"new A Vapaa 1 on\nanswer Kyllä\ncall Tilanne.UusiTilanne\ndays 1\n", "line 4: days needs a farm"},
+                            {"new A Vapaa 1 on\ncall Tilanne.Avaa\nanswer Kyllä\ncall Tilanne.UusiTilanne\ndays 1\n",
+                             "line 5: days needs a farm"},
                             // Files of the data folder only, and bytes that are there.
                             {"file ../Asetukset.dat\n", "line 1: a file of the data folder is named without folders"},
                             {"poke Puuttuu.sav 0 1\n", "line 1: no file 'Puuttuu.sav'"},
@@ -101,6 +103,50 @@ TEST(Runner, APressAPlayerCouldNotMakeIsSkippedAndTheScriptReadsOn) {
                         "call Tanhua.NäytäTähti 2\nprint Päivä\nevents\n");
     EXPECT_EQ(ajo.tila, 0) << ajo.virheet;
     EXPECT_EQ(ajo.ulos, "Päivä=1\nOHITETTU|Tarvikkeet.Avaa\nOHITETTU|Tanhua.NäytäTähti\n");
+}
+
+TEST(Runner, CareerAndCouponPressesNeedTheirControlsAndAnEndedCareerPlaysNoDay) {
+    // Each case: its script and how many times each line must stand in what it printed.
+    struct Tapaus {
+        const char* mikä;
+        std::string skripti;
+        std::vector<std::pair<std::string, int>> rivit;
+    };
+    const std::string alku = "set Musiikki False\nset Äänitehosteet False\n";
+    for (const Tapaus& c : {
+             Tapaus{"the coupon has no Command3",
+                    alku + "new A Vapaa 1 on\ncall Ravit.Avaa\ncall Ravit.Command2\ncall Ravit.Command3\n"
+                           "print Ravit.Vetolaji\nevents\n",
+                    {{"OHITETTU|Ravit.Command3", 1}, {"OHITETTU|Ravit.Command2", 0}, {"Ravit.Vetolaji=Trio", 1}}},
+             {"no save before the panel shows",
+              alku + "new A Vapaa 1 on\ncall Tilanne.Tallenna Eka\ncall Tilanne.Avaa\ncall Tilanne.Tallenna Eka\n"
+                     "file Eka.sav\nevents\n",
+              {{"OHITETTU|Tilanne.Tallenna", 2}, {"Eka.sav=missing", 1}}},
+             {"no open while the panel is hidden",
+              alku + "new A Vapaa 1 on\ncall Tilanne.Avaa\ncall Tilanne.AvaaTallenna\ncall Tilanne.Tallenna Eka\n"
+                     "call Tilanne.SuljePaneeli\nset Raha 5\ncall Tilanne.AvaaTilanne Eka\nprint Raha\nevents\n",
+              {{"OHITETTU|Tilanne.AvaaTilanne", 1}, {"Raha=5", 1}}},
+             {"no new farm from the main screen",
+              alku + "new A Vapaa 1 on\nanswer Kyllä\ncall Tilanne.UusiTilanne\ndays 1\nprint Päivä\nevents\n",
+              {{"OHITETTU|Tilanne.UusiTilanne", 1}, {"Päivä=2", 1}}},
+             // The goal's day shows the story over the main screen; no later press reaches the day.
+             {"the million reached ends the days",
+              alku + "new A Miljoona 1 on\nset Raha 2000000\ndays 3\nprint Päivä\ndays 1\nevents\n",
+              {{"Päivä=2", 1},
+               {"VIESTI|0|Tavoitteesi oli kerätä miljoona ja olet päässyt tavoitteeseesi|vastattu", 1},
+               {"OHITETTU|SeuraavaPäivä", 2}}},
+         }) {
+        const Ajo ajo = Aja(c.skripti);
+        EXPECT_EQ(ajo.tila, 0) << c.mikä << ": " << ajo.virheet;
+        std::istringstream ulos(ajo.ulos);
+        std::vector<std::string> rivit;
+        for (std::string r; std::getline(ulos, r);) rivit.push_back(r);
+        for (const auto& [rivi, kertaa] : c.rivit)
+            EXPECT_EQ(std::count(rivit.begin(), rivit.end(), rivi), kertaa) << c.mikä << ": " << rivi;
+    }
+    // Every button name of the coupon's form is an operation, the missing Command3 too.
+    for (int n = 1; n <= 10; ++n)
+        EXPECT_EQ(Toiminnot().count("Ravit.Command" + std::to_string(n)), 1u) << n;
 }
 
 TEST(Runner, TellsTheEndOfTheProgramAndReadsOn) {

@@ -1,5 +1,5 @@
-// The stable's day: the demand, the lesson hours with their holds, the mares running out, the
-// weekend, and the ledger's line.
+// The stable's day: the demand, the lesson hours with their holds, the mares running out and the
+// ledger's line. The weekends are played in the stable's transcript.
 #include <gtest/gtest.h>
 
 #include "buildings/talli.h"
@@ -57,14 +57,8 @@ TEST(StableDemand, SeasonSkyPriceAndCrowding) {
 }
 
 TEST(StableDay, HoursRoundToEvenAreHeldAndCountWhileTheMaresLast) {
-    struct Tapaus {
-        const char* mikä;
-        Long tammoja, mestareita;
-        bool ylityö;
-        Integer moti;
-        std::vector<double> arvonnat;
-        Long T;
-    };
+    struct Tapaus { const char* mikä; Long tammoja, mestareita; bool ylityö; Integer moti; std::vector<double> arvonnat;
+        Long T; };
     // With demand 0 and motivation 0, h = round(4r): r .625 gives 2.5, .875 gives 3.5.
     const Tapaus tapaukset[] = {
         {"2.5 goes to 2; one mare, one master: one block", 1, 1, false, 0, {.625, .99}, 2},
@@ -93,31 +87,6 @@ TEST(StableDay, HoursRoundToEvenAreHeldAndCountWhileTheMaresLast) {
         EXPECT_EQ(t.m.RatsastusTulot, c.T * 40) << c.mikä;
         EXPECT_EQ(t.m.Liikevaihto, 100 + c.T * 40) << c.mikä;
         EXPECT_EQ(t.m.YlityöPalkat, 0) << "overtime costs nothing on a weekday: " << c.mikä;
-    }
-}
-
-TEST(StableDay, WeekendsAreFreeWithoutOvertimeAndPaidOnceADayWithIt) {
-    struct Tapaus { bool ylityö; Long mestareita; int arvontoja; const char* rivi; Single ylityöPalkat; };
-    const Tapaus tapaukset[] = {
-        {false, 2, 0, " 6. 6 - Viikonloppu. Ei tuottoa", 0},
-        // Two masters, three blocks of 4 hours; one day's pay, 6000 / 15, for the stable.
-        {true, 2, 4, " 6. 6 -  12 tuntia (ylityö).Summa: 480", 400},
-    };
-    for (const Tapaus& c : tapaukset) {
-        Talli t;
-        t.Nollakysyntä(2);
-        t.m.Päivä = 6;
-        t.m.Kuukausi = 6;
-        t.m.Viikonloppu = true;
-        t.m.Työ[Tallimestari] = c.mestareita;
-        t.m.Ylityö[Tallimestari] = c.ylityö;
-        t.m.Palkka[Tallimestari] = 6000;
-        for (int i = 0; i < c.arvontoja; ++i) t.peli.arvonta.Jonoon(.875);
-        RatsastusPäivä(t.peli);
-        EXPECT_EQ(t.arvontoja, c.arvontoja);
-        EXPECT_EQ(t.peli.arvonta.JonossaJäljellä(), 0u);
-        EXPECT_EQ(t.peli.talliruutu.Ratsastus, std::vector<std::string>{c.rivi});
-        EXPECT_EQ(t.m.YlityöPalkat, c.ylityöPalkat);
     }
 }
 

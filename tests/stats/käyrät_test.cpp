@@ -10,7 +10,6 @@ namespace tanhua {
 namespace {
 
 using testi::Testipeli;
-using Tapahtumat = std::vector<std::string>;
 
 // The screen opened with sounds on: the opening's click is the only draw.
 struct Käyrillä : Testipeli {
@@ -63,8 +62,7 @@ TEST(Curves, TheLineIsTwoUnitsThickItsFirstSegmentFlatUnitAndStepRoundedToEven) 
     // Top 1000 over 400 units is 2.5: the unit rounds to 2, so 200 stands 100 units up.
     t.m.Käyrät.Rahatila = {" 0", " 200"};
     PiirräKäyrä(t.peli, KäyräRaha);
-    EXPECT_EQ(t.r().U, 2);
-    EXPECT_EQ(t.r().S, 300);
+    EXPECT_EQ(std::tuple(t.r().U, t.r().S), std::tuple(2, 300));
     ASSERT_EQ(t.r().janat.size(), 4u);
     const Jana odotetut[] = {{0, 400, 300, 400}, {0, 401, 300, 401}, {300, 400, 600, 300}, {300, 401, 600, 301}};
     for (std::size_t i = 0; i < 4; ++i) {
@@ -92,9 +90,7 @@ TEST(Curves, AnItemThatIsNotANumberIsFailure13AtItsButton) {
             // Going on leaves both out: one line from the good item, the labels at the lowest rung.
             Tapahtumat odotetut = alku;
             odotetut.insert(odotetut.end(), {"ÄÄNI|virhe", "VIKA|Käyrät formi. Command1 click|13|Kyllä"});
-            EXPECT_EQ(t.Tapahtumat(), odotetut);
-            EXPECT_EQ(t.r().janat.size(), 2u);
-            EXPECT_EQ(t.r().Maximi, " 100;-");
+            EXPECT_EQ(std::tuple(t.Tapahtumat(), t.r().janat.size(), t.r().Maximi), std::tuple(odotetut, 2u, " 100;-"));
         } else {
             EXPECT_EQ(t.Tapahtumat(), alku) << "giving up stops at the first";
             EXPECT_TRUE(t.r().janat.empty());
@@ -112,8 +108,7 @@ TEST(Curves, TimeAxisAndTheNetButtonAreSetAtOpening) {
         EXPECT_EQ(Aika2(static_cast<Integer>(c.vuosi)), c.aika2) << c.vuosi;
     }
     Käyrillä t;
-    EXPECT_EQ(t.r().aika1, "1.6.1980");
-    EXPECT_EQ(t.r().aika3, " 1. 6. 1980");
+    EXPECT_EQ(std::tuple(t.r().aika1, t.r().aika3), std::tuple("1.6.1980", " 1. 6. 1980"));
     EXPECT_FALSE(t.r().Command5);
     t.m.Työ[Kirjanpitäjä] = 1;
     EXPECT_FALSE(t.r().Command5) << "hiring while open changes nothing";
@@ -158,10 +153,9 @@ TEST(Curves, TablesPrintTwentyProductsAtColumnFiveRedBelowZero) {
     EXPECT_TRUE(t.r().janat.empty());
     const Tapahtumat e = t.Tapahtumat();
     ASSERT_EQ(e.size(), 23u);
-    EXPECT_EQ(e[1], "ALUE|Käyrät.Taulu");
-    EXPECT_EQ(e[2], "RIVI|0,0,0|0|");
-    EXPECT_EQ(e[3], "RIVI|180,0,0|5|Maito : -765432.2");
-    EXPECT_EQ(e[22], "RIVI|0,0,0|5|Hunaja :  0");
+    EXPECT_EQ(std::tuple(e[1], e[2], e[3], e[22]),
+              std::tuple("ALUE|Käyrät.Taulu", "RIVI|0,0,0|0|", "RIVI|180,0,0|5|Maito : -765432.2",
+                         "RIVI|0,0,0|5|Hunaja :  0"));
     TuotteidenBrutto(t.peli);
     EXPECT_EQ(t.Tapahtumat()[2], "RIVI|0,0,0|5|Maito :  1234568") << "a table plays no sound";
     EXPECT_EQ(t.r().otsikko, "Viime kk:n tuotteiden brutto myynti");

@@ -14,12 +14,7 @@ TEST(SettingsFile, ALineTheGameWouldRefuseKeepsTheShippedValue) {
     Asetukset oletus;
     oletus.Musiikki = true;
     oletus.AnimNopeus = 50;
-    struct Tapaus {
-        const char* teksti;
-        std::vector<int> huonot;
-        bool musiikki;
-        int nopeus;
-    };
+    struct Tapaus { const char* teksti; std::vector<int> huonot; bool musiikki; int nopeus; };
     for (const Tapaus& c : {
              // Booleans also take a whole number: 0 is false, all else true; a line may end LF only.
              Tapaus{"False\r\nTrue\r\n7\r\nFalse\r\n0\r\nTrue\r\n-1\r\nTrue\r\nFalse\r\n", {}, false, 7},
@@ -29,9 +24,8 @@ TEST(SettingsFile, ALineTheGameWouldRefuseKeepsTheShippedValue) {
              {"", {1, 2, 3, 4, 5, 6, 7, 8, 9}, true, 50},
          }) {
         Asetukset a;
-        EXPECT_EQ(JäsennäAsetukset(c.teksti, oletus, a), c.huonot) << c.teksti;
-        EXPECT_EQ(a.Musiikki, c.musiikki) << c.teksti;
-        EXPECT_EQ(a.AnimNopeus, c.nopeus) << c.teksti;
+        EXPECT_EQ(std::tuple(JäsennäAsetukset(c.teksti, oletus, a), a.Musiikki, a.AnimNopeus),
+                  std::tuple(c.huonot, c.musiikki, c.nopeus)) << c.teksti;
     }
     EXPECT_EQ(HuonotRivit({5}, false),
               "Asetukset.dat: rivi 5 ei kelvannut pelille; sen tilalla on asennuksen arvo.");
@@ -40,11 +34,7 @@ TEST(SettingsFile, ALineTheGameWouldRefuseKeepsTheShippedValue) {
 
 TEST(SettingsFile, TypedValuesAreCheckedAndTheFileIsNineLinesWithCrLf) {
     Asetukset a;
-    struct Tapaus {
-        const char* nimi;
-        const char* arvo;
-        bool kelpaa;
-    };
+    struct Tapaus { const char* nimi; const char* arvo; bool kelpaa; };
     for (const Tapaus& c : {Tapaus{"Musiikki", "False", true}, {"Musiikki", "false", false}, {"Musiikki", "0", false},
                             {"AnimNopeus", "0", true}, {"AnimNopeus", "100", true}, {"AnimNopeus", "101", false},
                             {"AnimNopeus", "-1", false}, {"AnimNopeus", "5.5", false}, {"AnimNopeus", "", false}}) {

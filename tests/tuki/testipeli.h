@@ -8,6 +8,13 @@
 #include "core/peli.h"
 #include "sim/tallentava.h"
 
+namespace tanhua {
+
+// The recorded events of a case, as the channels wrote them.
+using Tapahtumat = std::vector<std::string>;
+
+}  // namespace tanhua
+
 namespace tanhua::testi {
 
 // A fresh, empty folder under the system's temporary folder, removed with the object.
@@ -35,6 +42,11 @@ struct Testipeli {
     TallentavatKanavat kanavat;
     Peli peli;
     Muuttujat& m;
+};
+
+// A farm just started at the given difficulty, Normaali unless told.
+struct Aloitettu : Testipeli {
+    explicit Aloitettu(int taso = 1) { Aloita("Testi", taso); }
 };
 
 }  // namespace tanhua::testi

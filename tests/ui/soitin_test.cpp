@@ -5,11 +5,14 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include "ui/Eläimet.h"
 #include "ui/Player.h"
 #include "ui/Tanhua.h"
 #include "ikkuna.h"
+#include "ui/Hevostalli.h"
+#include "ui/Ravit.h"
 
 namespace tanhua::ui {
 namespace {
@@ -59,6 +62,29 @@ TEST(ScreenFold, AScreenOpensAndClosesWholeWithTheFocusBackOnTheNextDay) {
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
     EXPECT_EQ(i.w->tanhua()->geometry(), sivu) << "the main form has its size back";
     EXPECT_TRUE(i.w->tanhua()->Command4()->hasFocus());
+    // The race coupon folds open from the stable and back to it, each at its own size at the end.
+    i.w->AvaaRuutu(i.w->hevostalli());
+    QTimer::singleShot(0, [] {
+        if (QWidget* laatikko = QApplication::activeModalWidget()) laatikko->close();
+    });
+    struct Koot : QObject {
+        int muutoksia = 0;
+        bool eventFilter(QObject*, QEvent* e) override {
+            muutoksia += e->type() == QEvent::Resize;
+            return false;
+        }
+    } koot;
+    i.w->ravit()->installEventFilter(&koot);
+    i.w->AvaaRavit(i.w->hevostalli());
+    EXPECT_GT(koot.muutoksia, 2) << "the coupon opens round by round";
+    i.w->ravit()->removeEventFilter(&koot);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->ravit());
+    EXPECT_EQ(i.w->ravit()->geometry(), sivu);
+    EXPECT_TRUE(i.w->hevostalli()->isEnabled());
+    QTest::mouseClick(i.w->ravit()->Command(1), Qt::LeftButton);
+    EXPECT_EQ(i.w->pino()->currentWidget(), i.w->hevostalli());
+    EXPECT_EQ(i.w->hevostalli()->geometry(), sivu);
+    EXPECT_TRUE(i.w->hevostalli()->isEnabled());
 }
 
 }  // namespace

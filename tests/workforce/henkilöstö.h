@@ -9,8 +9,6 @@
 
 namespace tanhua::testi {
 
-using Tapahtumat = std::vector<std::string>;
-
 // Every job listed, and cash for a claim when someone is fired.
 struct Tila : Testipeli {
     Tila() {

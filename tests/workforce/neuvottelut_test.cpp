@@ -7,8 +7,6 @@
 namespace tanhua {
 namespace {
 
-using Tapahtumat = std::vector<std::string>;
-
 // A farm whose stable master and cleaner are paid their base wage; the draws are counted.
 struct Neuvottelu : testi::Testipeli {
     explicit Neuvottelu(int taso = 1) {
@@ -93,9 +91,8 @@ TEST(WageTalks, EveryRefusalHalvesTheRaiseAndAnAgreementAtNothingStillLocks) {
         if (kohta != std::string::npos) vaatimukset.push_back(std::stoi(e.substr(kohta + 20)));
         if (e == "VIESTI|0|Tallimestari miettii uutta palkkavaatimusta.|vastattu") ++mietteitä;
     }
-    EXPECT_EQ(vaatimukset, (std::vector<int>{6400, 6200, 6100, 6050, 6025, 6012, 6006, 6003, 6001, 6000}));
-    EXPECT_EQ(mietteitä, 9);
-    EXPECT_EQ(t.m.Palkka[Tallimestari], 6000);
+    EXPECT_EQ(std::tuple(vaatimukset, mietteitä, t.m.Palkka[Tallimestari]),
+              std::tuple((std::vector<int>{6400, 6200, 6100, 6050, 6025, 6012, 6006, 6003, 6001, 6000}), 9, 6000));
     EXPECT_TRUE(t.m.PalkkaLukko[Tallimestari]);
     EXPECT_EQ(t.peli.näkymä.IkkunaTeksti, "Sopimuksessa päästiin yhteisymmärrykseen. Uusi palkka on  6000 / kk");
 }
@@ -131,10 +128,8 @@ TEST(WageTalks, AnAgreementGoesOnToTheNextJobAndAResignationEndsTheRound) {
         t.Vastaukset({"Ei"});
         Palkkaneuvottelut(t.peli);
         EXPECT_EQ(t.arvontoja, 5) << "the cleaner's talk never comes";
-        EXPECT_EQ(t.m.Työ[Tallimestari], 0);
-        EXPECT_EQ(t.m.Työ[Siivooja], 2);
-        EXPECT_EQ(t.m.Palkka[Tallimestari], 6000);
-        EXPECT_EQ(t.m.Raha, -6000);
+        EXPECT_EQ(std::tuple(t.m.Työ[Tallimestari], t.m.Työ[Siivooja], t.m.Palkka[Tallimestari], t.m.Raha),
+                  std::tuple(0, 2, 6000, -6000));
         const Tapahtumat e = t.Tapahtumat();
         ASSERT_EQ(e.size(), 5u);
         EXPECT_EQ(e[0], tallimestari);

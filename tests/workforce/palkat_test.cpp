@@ -1,4 +1,5 @@
-// Choosing a job, the wage slider, overtime, the wage sum and the employment subsidy.
+// The staff screen: choosing a job, the wage slider, overtime, the wage sum, the employment subsidy, and the
+// gauges of motivation and stress at the edges of their bands.
 #include <gtest/gtest.h>
 
 #include "henkilöstö.h"
@@ -7,7 +8,6 @@
 namespace tanhua {
 namespace {
 
-using testi::Tapahtumat;
 using testi::Testipeli;
 using testi::Tila;
 
@@ -27,8 +27,7 @@ TEST(Choosing, TheSliderStandsAtTheWagesDifferenceHeldToItsEnd) {
         if (c.metsuriEnsin) ValitseTyöläinen(t.peli, Metsuri);
         ValitseTyöläinen(t.peli, Leipuri);
         const TyövoimaRuutuTila& r = t.peli.työvoimaruutu;
-        EXPECT_EQ(r.mittari, c.mittari) << c.palkka;
-        EXPECT_EQ(t.m.Palkka[Leipuri], c.palkkaJälkeen) << c.palkka;
+        EXPECT_EQ(std::tuple(r.mittari, t.m.Palkka[Leipuri]), std::tuple(c.mittari, c.palkkaJälkeen)) << c.palkka;
         EXPECT_EQ(r.palk, c.palkkaJälkeen);
     }
 }
@@ -72,8 +71,7 @@ TEST(WageSum, TheSliderAndHiresShowItAndGardenersAndBeekeepersAreOnLeaveInWinter
         OtaTöihin(t.peli);
         SiirräMittaria(t.peli, 250);
         EXPECT_EQ(t.m.PalkatYhteensä, c.summa) << c.vuodenaika;
-        EXPECT_EQ(t.peli.työvoimaruutu.yhtpalk, c.summa);
-        EXPECT_EQ(t.peli.työvoimaruutu.Työläisiä, 15);
+        EXPECT_EQ(std::tuple(t.peli.työvoimaruutu.yhtpalk, t.peli.työvoimaruutu.Työläisiä), std::tuple(c.summa, 15));
         EXPECT_EQ(t.m.Raha, 10000);  // a hire costs nothing
         EXPECT_EQ(t.Tapahtumat(), Tapahtumat{"ÄÄNI|siirto"});  // the slider makes no sound
     }
@@ -105,8 +103,7 @@ TEST(Subsidy, TheRateByTurnoverLessAThousandAnAccountant) {
         {10500, 1, 1, 2, "Kesä", 2 * 1000}, // halved on the hardest level
     };
     for (const Tapaus& c : tapaukset) {
-        Testipeli t;
-        t.Aloita();
+        testi::Aloitettu t;
         t.m.Liikevaihto = c.liikevaihto;
         t.m.Työ[Kirjanpitäjä] = c.kirjanpitäjiä;
         t.m.Työ[Siivooja] = c.siivoojia;
@@ -126,14 +123,67 @@ TEST(Subsidy, WhoCountsAndWhoNever) {
         {Vahtikoira, "Kesä", 0},             {Viinimestari, "Kesä", 0},
     };
     for (const Tapaus& c : tapaukset) {
-        Testipeli t;
-        t.Aloita();
+        testi::Aloitettu t;
         t.m.Liikevaihto = 0;
         t.m.Vuodenaika = c.aika;
         t.m.Työ[c.k] = 10;
         t.m.PalkatYhteensä = 100000;
         EXPECT_EQ(Työllistämistuki(t.peli), c.tuki) << TYÖLÄISTAULU[c.k].avain << " " << c.aika;
     }
+}
+
+// Wages that give the sixteen motivations (the tanner's stays 0) the sum asked for.
+void Motivaatiot(Tila& t, int summa) {
+    for (std::size_t k = 0; k < TYÖLÄISIÄ; ++k) {
+        if (k == Nahkuri) continue;
+        const int x = std::clamp(summa, -20, 20);
+        summa -= x;
+        t.m.Palkka[k] = static_cast<Integer>(t.m.PerusPalkka[k] + 1000 * x);
+    }
+    ASSERT_EQ(summa, 0);
+}
+
+TEST(Gauges, MotivationByTheRoundedFifteenthOfTheSum) {
+    struct Tapaus { int summa; const char* Moti; };
+    const Tapaus tapaukset[] = {
+        {-83, "Surkea!"}, {-82, "Huono"},   {-38, "Huono"}, {-37, "Normaali"},
+        {22, "Normaali"}, {23, "Hyvä"},     {67, "Hyvä"},   {68, "Todella hyvä"},
+    };
+    for (const Tapaus& c : tapaukset) {
+        Tila t;
+        t.m.Työ[Siivooja] = 1;
+        Lasketyöläiset(t.peli);
+        Motivaatiot(t, c.summa);
+        Motilasku(t.peli);
+        EXPECT_EQ(t.peli.työvoimaruutu.Moti, c.Moti) << c.summa;
+    }
+}
+
+TEST(Gauges, StressCountsJobsWithoutOvertime) {
+    struct Tapaus { int levossa; const char* Stres; };
+    const Tapaus tapaukset[] = {{5, "Burnout!"},    {6, "Lievä stressi"},  {8, "Lievä stressi"},
+                                {9, "Ei stressiä"}, {12, "Ei stressiä"},   {13, "Rento meininki"},
+                                {17, "Rento meininki"}};
+    for (const Tapaus& c : tapaukset) {
+        Tila t;
+        t.m.Työ[Siivooja] = 1;
+        Lasketyöläiset(t.peli);
+        for (int k = 0; k < static_cast<int>(TYÖLÄISIÄ) - c.levossa; ++k) t.m.Ylityö[k] = true;
+        Stressilasku(t.peli);
+        EXPECT_EQ(t.peli.työvoimaruutu.Stres, c.Stres) << c.levossa;
+    }
+}
+
+TEST(Gauges, BlankWithNobodyEmployedAndShownOnHiring) {
+    Tila t;
+    Motivaatiot(t, -100);
+    Motilasku(t.peli);
+    Stressilasku(t.peli);
+    EXPECT_EQ(std::tuple(t.peli.työvoimaruutu.Moti, t.peli.työvoimaruutu.Stres), std::tuple("", ""));
+    t.Valitse(Siivooja);
+    OtaTöihin(t.peli);
+    EXPECT_EQ(t.peli.työvoimaruutu.Moti, "Surkea!");
+    EXPECT_EQ(t.peli.työvoimaruutu.Stres, "Rento meininki");
 }
 
 }  // namespace

@@ -23,8 +23,7 @@ TEST(StaffControls, StarsOpenTheJobsInTheScreensOrder) {
         {false, 0, kaksi + "|Varastotyöntekijä"},
     };
     for (const Tapaus& c : tapaukset) {
-        testi::Testipeli t;
-        t.Aloita();
+        testi::Aloitettu t;
         t.m.TähtiLukitus = c.lukitus;
         t.m.Tähdet = c.tähdet;
         EXPECT_EQ(Näkyy(t.peli, "Työvoima.Lista"), c.lista) << int(c.tähdet);
@@ -32,8 +31,7 @@ TEST(StaffControls, StarsOpenTheJobsInTheScreensOrder) {
 }
 
 TEST(StaffScript, MalformedWordsAndNumbersOutOfTheirWidthAreScriptErrors) {
-    testi::Testipeli t;
-    t.Aloita();
+    testi::Aloitettu t;
     t.m.PerusPalkka[Siivooja] = 32000;  // 33000 lies on the slider but not in a wage
     AvaaTyövoima(t.peli);
     const Toimintoluettelo& ops = Toiminnot();
