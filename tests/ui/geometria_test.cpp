@@ -106,14 +106,15 @@ struct Tarkastus {
     void Alue(const std::string& tila, QWidget* alue) {
         i.w->Päivitä();
         QApplication::processEvents();
-        ASSERT_EQ(i.w->pino()->size(), QSize(800, 600));
+        ASSERT_EQ(i.w->sisältö()->size(), QSize(800, 600));
+        ASSERT_EQ(i.w->pino()->geometry(), QRect(0, 0, 800, 600));
         Tallenna(tila, alue);
-        QWidget* kangas = alue->isWindow() ? alue : i.w->pino();
+        QWidget* kangas = i.w->sisältö();
         const QRect rajat = kangas->rect();
         if (!rajat.contains(Kankaalla(alue, kangas)))
             EXPECT_TRUE(false) << tila << ": " << Nimi(alue) << " runs off the 800 x 600 canvas";
         Lapset(tila, alue, kangas);
-        if (QWidget* kyltti = i.w->rahaKyltti(); kyltti->isVisible() && !alue->isWindow()) Kyltti(tila, alue, kyltti);
+        if (QWidget* kyltti = i.w->rahaKyltti(); kyltti->isVisible()) Kyltti(tila, alue, kyltti);
     }
 
     // The geometry of a screen's panels and buttons, to compare before and after a card opens.
@@ -171,9 +172,9 @@ private:
     }
 
     void Kyltti(const std::string& tila, QWidget* ruutu, QWidget* kyltti) {
-        const QRect laatta = Kankaalla(kyltti, i.w->pino());
+        const QRect laatta = Kankaalla(kyltti, i.w->sisältö());
         for (QWidget* w : ruutu->findChildren<QWidget*>())
-            if (w->isVisible() && !w->isWindow() && Kankaalla(w, i.w->pino()).intersects(laatta))
+            if (w->isVisible() && !w->isWindow() && Kankaalla(w, i.w->sisältö()).intersects(laatta))
                 ADD_FAILURE() << tila << ": the money plate covers " << Nimi(w);
     }
 
