@@ -36,7 +36,12 @@ Työvoima::Työvoima(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi)
     QFrame* vasen = Paneeli(this, "lista");
     lista_ = new QListWidget(vasen);
     lista_->setObjectName("Lista");
-    lista_->setStyleSheet("QListWidget { font-size: 12pt; background: transparent; border: none; }");
+    // A list on the panel's paper: the chosen row marked in the game's ink, not the toolkit's blue bar.
+    lista_->setStyleSheet("QListWidget { font-size: 12pt; background: transparent; border: none; color: #24160a; }"
+                          " QListWidget::item { padding: 1px 4px; }"
+                          " QListWidget::item:selected { background: rgba(176, 120, 50, 70); color: #1f1408;"
+                          " font-weight: bold; border-radius: 4px; }"
+                          " QListWidget::item:hover { background: rgba(176, 120, 50, 35); }");
     työläisiä_ = Teksti("", 11, vasen);
     työläisiä_->setObjectName("Työläisiä");
     yhtpalk_ = Teksti("", 11, vasen);
