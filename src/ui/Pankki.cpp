@@ -80,10 +80,11 @@ Pankki::Pankki(Peli& peli, Pääikkuna& ikkuna, QWidget* vanhempi) : Tausta(vanh
 
     lappu_ = Lappu();
     vakuLappu_ = VakuLappu();
-    // A sheet, when one is open, takes the whole right column.
+    // A sheet, when one is open, takes the whole right column; with both open, the insurances' longer
+    // list takes the larger share.
     auto* oikea = new QVBoxLayout;
-    oikea->addWidget(lappu_, 1);
-    oikea->addWidget(vakuLappu_, 1);
+    oikea->addWidget(lappu_, 2);
+    oikea->addWidget(vakuLappu_, 3);
     AsetteleAlaruutu(this, aihe_, tili, oikea, ohje_, sulje_, 6, 5);
 }
 
@@ -115,14 +116,17 @@ QFrame* Pankki::Lappu() {
     connect(suljeLappu_, &QPushButton::clicked, this, [this] { Toimi(SuljeLappu); });
     connect(summa_, &QLineEdit::returnPressed, vahvista_, &QPushButton::click);
     auto* g = new QGridLayout(p);
-    g->setContentsMargins(16, 12, 16, 16);
-    g->setVerticalSpacing(12);
+    // Both sheets may be open at once in the right column: each keeps to what it needs.
+    g->setContentsMargins(14, 8, 14, 10);
+    g->setVerticalSpacing(6);
     g->addWidget(otsikko_, 0, 0, 1, 4);
     g->addWidget(teksti_, 1, 0, 1, 4);
     teksti_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // The explanation gives way first when the insurances' sheet shares the column.
+    teksti_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     teksti_->setStyleSheet(teksti_->styleSheet().replace("10pt", "11pt"));
     g->setRowStretch(1, 1);
-    for (QPushButton* nappi : {vahvista_, suljeLappu_}) nappi->setMinimumHeight(46);
+    for (QPushButton* nappi : {vahvista_, suljeLappu_}) nappi->setMinimumHeight(36);
     g->addWidget(Teksti("Summa :", 11, p, false), 2, 0);
     g->addWidget(summa_, 2, 1, 1, 3);
     g->addWidget(aikaAlas_, 3, 0);
@@ -141,11 +145,12 @@ QFrame* Pankki::Lappu() {
 QFrame* Pankki::VakuLappu() {
     QFrame* p = Paneeli(this, "VakuLappu");
     auto* g = new QGridLayout(p);
-    vakuOtsikko_ = Teksti("", 15, p);
+    vakuOtsikko_ = Teksti("", 14, p);
     g->addWidget(vakuOtsikko_, 0, 0, 1, 2);
-    g->setContentsMargins(16, 12, 16, 16);
+    g->setContentsMargins(14, 6, 14, 8);
+    g->setVerticalSpacing(2);
     // The heading, and under it the line that asks for ticks, each across the sheet.
-    g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 12, p), 1, 0, 1, 2);
+    g->addWidget(Teksti(Sv(pankkiteksti::Vakuutukset), 11, p), 1, 0, 1, 2);
     g->addWidget(Teksti(Sv(pankkiteksti::Rastita), 10, p, false), 2, 0, 1, 2);
     for (int v = 0; v < static_cast<int>(VAKUUTUKSIA); ++v) {
         const VakuutusRivi& rivi = VAKUUTUSTAULU[v];
@@ -167,7 +172,7 @@ QFrame* Pankki::VakuLappu() {
     vakuinfo_ = Teksti("", 10, p, false);
     vakuinfo_->setObjectName("Vakuinfo");
     vakuinfo_->setWordWrap(true);
-    vakuinfo_->setMinimumHeight(40);
+
     vakuinfo_->setProperty("vakuutus", -1);
     vakuinfo_->installEventFilter(this);
     suljeVaku_ = AlaruudunNappi(peli_, "Command11", p);
@@ -182,7 +187,7 @@ QFrame* Pankki::VakuLappu() {
     g->addLayout(summa, 8, 0, 1, 2);
     g->addWidget(vakuinfo_, 9, 0, 1, 2, Qt::AlignTop);
     g->setRowStretch(9, 1);
-    suljeVaku_->setMinimumHeight(46);
+    suljeVaku_->setMinimumHeight(34);
     g->addWidget(suljeVaku_, 10, 0, 1, 2);
     p->hide();
     return p;
@@ -201,6 +206,8 @@ void Pankki::Päivitä() {
     const PankkiRuutuTila& t = peli_.pankkiruutu;
     lappu_->setVisible(t.Lappu);
     vakuLappu_->setVisible(t.VakuLappu);
+    // With both sheets open in the column, the loan's explanation keeps to two lines.
+    teksti_->setMaximumHeight(t.Lappu && t.VakuLappu ? teksti_->fontMetrics().lineSpacing() * 2 : QWIDGETSIZE_MAX);
     vakuOtsikko_->setText(QString::fromStdString(LueOhjain(peli_, "Pankki.VakuLappu")->arvo));
     // Every named label and button shows its control: text, whether it shows, whether it can be clicked.
     for (QLabel* l : {lainaz_, tiliz_, maksuaikaz_, otsikko_, teksti_, aikaz_, prossa_, vakusumma_, vakuinfo_}) {

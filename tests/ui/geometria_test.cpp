@@ -321,6 +321,10 @@ TEST(Geometry, TheBankWithEachSheetAndTheMarketReport) {
     SuljeLappu(i.peli);
     AvaaVakuutukset(i.peli);
     t.Ruutu("Pankki-Vakuutukset");
+    // Both sheets can be open at once: they share the right column.
+    OtaLainaa(i.peli);
+    t.Ruutu("Pankki-Laina-Vakuutukset");
+    SuljeLappu(i.peli);
     Tarkastus::EiSiirry("Pankki", ennen, i.w->pankki());
     SuljeVakuutukset(i.peli);
     i.w->NäytäPörssiraportti();
