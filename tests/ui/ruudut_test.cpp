@@ -7,8 +7,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QSlider>
 #include <QPushButton>
+#include <QSlider>
 #include <QTest>
 
 #include "buildings/taulut/rakennuskatalogi.h"
@@ -45,8 +45,6 @@ TEST(Screens, TheStartScreenTheMainScreenAndTheNewsWindowShowTheirControls) {
     EXPECT_GT(VertaaRuutua(i.peli, i.w->tanhua(), "Tanhua"), 20);
     EXPECT_TRUE(i.w->tanhua()->Lista()->isVisible());
     EXPECT_EQ(i.peli.m.Vaikeustaso, 2);
-    Kerro(i.peli, "Kuvat/sattumat/Onnittelu.jpg", "Onnea!");
-    EXPECT_EQ(VertaaRuutua(i.peli, i.w->uutiset(), "ikkuna"), 3);
 }
 
 TEST(Screens, TheAnimalScreenWithACardAndBothPanels) {
@@ -69,7 +67,6 @@ TEST(Screens, TheAnimalScreenWithACardAndBothPanels) {
     QTest::mouseClick(e->Osta(), Qt::LeftButton);   // twelve cocks: past the limit of 2
     QTest::mouseClick(e->NahkuriKuva(), Qt::LeftButton);
     ASSERT_TRUE(e->TeurasPaneeli()->isVisible());
-    EXPECT_EQ(e->findChild<QLabel*>("yhtosto")->text(), "Yhteensä osto : 5000");
     EXPECT_GT(VertaaRuutua(i.peli, e, "Eläimet"), 60);
     QTest::keyClick(e, Qt::Key_Escape);  // hides the card
     EXPECT_FALSE(e->akkuna()->isVisible());
@@ -91,12 +88,9 @@ TEST(Screens, TheProductScreenWithTheManureCardAndTheAccountantsPanel) {
     ASSERT_TRUE(t->Taulu()->isVisible());
     EXPECT_EQ(t->findChild<QLabel*>("MyyntiAika")->text(), "joka viikko");
     EXPECT_GT(VertaaRuutua(i.peli, t, "Tuotteet"), 80);
-    QTest::mouseClick(t->Kuva(Rehu), Qt::LeftButton);
-    EXPECT_TRUE(t->Command3()->isEnabled());
-    VertaaRuutua(i.peli, t, "Tuotteet");
 }
 
-TEST(Screens, TheBuildingScreenShowsItsControlsAsTheGameReadsThem) {
+TEST(Screens, TheBuildingScreenWithItsOrdersAndProductionPanels) {
     Ikkuna i;
     i.Aloita();
     // One star: the sawmill is locked over its running order, the mill has an order, the barn two.
@@ -113,12 +107,10 @@ TEST(Screens, TheBuildingScreenShowsItsControlsAsTheGameReadsThem) {
     QTest::mouseClick(r->Command2(), Qt::LeftButton);
     VertaaRuutua(i.peli, r, "Rakennukset");
     EXPECT_EQ(r->findChild<QLabel*>("RakenneSahaz")->text(), "Lukittu");
-    // The locked label tells the stars that open it; a picture with no tip of its own its name.
+    // The locked label tells the stars that open it; a label with no tip of its own shows none.
     EXPECT_EQ(r->findChild<QLabel*>("RakenneSahaz")->toolTip(), "Lukittu. Avautuu, kun tilallasi on 2 tähteä.");
     EXPECT_EQ(r->findChild<QLabel*>("RakenneNavettaz")->toolTip(), "");
-    EXPECT_EQ(r->Kuva(Mehiläistarha)->toolTip(), "Rakennus : Mehiläistarha");
     EXPECT_EQ(r->findChild<QLabel*>("RakenneNavettaz")->text(), "50 päivää");
-    EXPECT_EQ(r->Command2()->text(), "Laajenna");
     EXPECT_EQ(r->hintanäky()->text(), " 20000");
 
     // A built building chosen: its production panel takes the text's place and the level shows.
@@ -126,9 +118,43 @@ TEST(Screens, TheBuildingScreenShowsItsControlsAsTheGameReadsThem) {
     i.peli.m.RakAika[Mylly] = 0;
     QTest::mouseClick(r->Kuva(Mylly), Qt::LeftButton);
     VertaaRuutua(i.peli, r, "Rakennukset");
-    EXPECT_TRUE(r->findChild<QLabel*>("info")->text().startsWith("Myllyn tämän kk:n tuotto: \r\n"));
     EXPECT_EQ(r->findChild<QLabel*>("taso")->text(), "2 / 5");
     EXPECT_FALSE(r->Plus()->isEnabled());
+
+    // An unbuilt dairy chosen starts at full output; it has no panel or slider yet.
+    Muuttujat& m = i.peli.m;
+    m.Rak[Kasvihuone] = 1;
+    m.Tulo[Juusto] = 1234;
+    m.Tuotanto[Meijeri] = 0;
+    QTest::mouseClick(r->Kuva(Meijeri), Qt::LeftButton);
+    EXPECT_EQ(m.Tuotanto[Meijeri], 100);
+    EXPECT_FALSE(r->Rakennus_Tuotanto()->isVisible());
+    EXPECT_FALSE(r->findChild<QLabel*>("RaakaKuva")->isVisible());
+    // Built, it shows its month's output, its product pictures and the slider.
+    m.Rak[Meijeri] = 1;
+    QTest::mouseClick(r->Kuva(Meijeri), Qt::LeftButton);
+    VertaaRuutua(i.peli, r, "Rakennukset");
+    auto* info = r->findChild<QLabel*>("info");
+    EXPECT_TRUE(info->text().startsWith("Meijerin tämän kk:n tuotto: \r\nBruttotuotto :1234/kk\r\n"));
+    EXPECT_TRUE(r->findChild<QLabel*>("RaakaKuva")->isVisible());
+    EXPECT_TRUE(r->findChild<QLabel*>("TuoteKuva")->isVisible());
+    // The slider moved a step down: 90 percent at once, and the label says so.
+    ASSERT_TRUE(r->Rakennus_Tuotanto()->isVisible());
+    EXPECT_EQ(r->Rakennus_Tuotanto()->value(), 10);
+    r->Rakennus_Tuotanto()->setFocus();
+    QTest::keyClick(r->Rakennus_Tuotanto(), Qt::Key_Left);
+    EXPECT_EQ(m.Tuotanto[Meijeri], 90);
+    EXPECT_EQ(r->Prosentti()->text(), "90 %");
+    VertaaRuutua(i.peli, r, "Rakennukset");
+    // The greenhouse has a panel but no slider, and in winter no net line.
+    for (const char* vuodenaika : {"Talvi", "Kesä"}) {
+        m.Vuodenaika = vuodenaika;
+        QTest::mouseClick(r->Kuva(Kasvihuone), Qt::LeftButton);
+        VertaaRuutua(i.peli, r, "Rakennukset");
+        EXPECT_FALSE(r->Rakennus_Tuotanto()->isVisible());
+        EXPECT_TRUE(info->text().startsWith("Kasvihuoneen tämän kk:n tuotto: "));
+        EXPECT_EQ(info->text().contains("Nettotuotto"), m.Vuodenaika == "Kesä");
+    }
     QTest::keyClick(r, Qt::Key_Escape);
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua()) << "Esc leaves the building screen";
 }
