@@ -2,6 +2,7 @@
 #include "ikkuna.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -41,6 +42,16 @@ void Ikkuna::Aloita(const char* nimi) {
 
 void Ikkuna::VastaaNäppäimellä(Qt::Key näppäin) {
     QTimer::singleShot(0, [this, näppäin] { QTest::keyClick(w->message(), näppäin); });
+}
+
+void Ikkuna::SuljeLaatikko() {
+    QTimer::singleShot(0, [] {
+        if (QWidget* laatikko = QApplication::activeModalWidget()) laatikko->close();
+    });
+}
+
+void Klikkaa(std::initializer_list<QWidget*> kohteet) {
+    for (QWidget* w : kohteet) QTest::mouseClick(w, Qt::LeftButton);
 }
 
 namespace {

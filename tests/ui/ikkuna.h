@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,8 @@ struct Ikkuna {
     void Aloita(const char* nimi = "Matti");
     // Answers the next Message box with a key once it is open.
     void VastaaNäppäimellä(Qt::Key näppäin);
+    // Closes the toolkit's next box (a plain notice) as a player would, once it is open.
+    static void SuljeLaatikko();
 
     tanhua::testi::Väliaikainen kansio;
     Kansiot kansiot;
@@ -35,6 +38,16 @@ struct Ikkuna {
     std::string odottamaton;
     bool lopetettu = false;
 };
+
+// A farm started from the start screen, as most of the window's tests begin.
+struct Pelissä : ::testing::Test {
+    Pelissä() { i.Aloita(); }
+    Ikkuna i;
+    Muuttujat& m = i.peli.m;
+};
+
+// Clicks each widget in turn with the left button.
+void Klikkaa(std::initializer_list<QWidget*> kohteet);
 
 // Every control the game registers for the screen against the widget of the same name (a member of
 // an array as "Kuva(3)" or "Picture3"): shown alike, enabled alike, and showing the same text,

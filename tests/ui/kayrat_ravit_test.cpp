@@ -17,7 +17,10 @@ namespace tanhua::ui {
 namespace {
 
 using testi::Ikkuna;
+using testi::Klikkaa;
 using testi::VertaaRuutua;
+using CurvesWindow = testi::Pelissä;
+using RacesWindow = testi::Pelissä;
 
 // The pixel of the plot where the curve's point (x, y) in the plot's units falls.
 QColor Kohta(const QImage& kuva, double x, double y) {
@@ -26,15 +29,13 @@ QColor Kohta(const QImage& kuva, double x, double y) {
 }
 bool Punainen(const QColor& c) { return c.red() > 130 && c.green() < 100 && c.blue() < 100; }
 
-TEST(CurvesWindow, TheCurveIsDrawnWithItsLabelsAtAnySize) {
-    Ikkuna i;
-    i.Aloita();
-    i.peli.m.Käyrät.Rahatila = {" 0", " 200"};
-    QTest::mouseClick(i.w->tanhua()->Stat(), Qt::LeftButton);
+TEST_F(CurvesWindow, TheCurveIsDrawnWithItsLabelsAtAnySize) {
+    m.Käyrät.Rahatila = {" 0", " 200"};
+    Klikkaa({i.w->tanhua()->Stat()});
     Käyrät* k = i.w->käyrät();
     ASSERT_EQ(i.w->pino()->currentWidget(), k);
     EXPECT_FALSE(k->Command(5)->isEnabled()) << "no bookkeeper";
-    QTest::mouseClick(k->Command(6), Qt::LeftButton);
+    Klikkaa({k->Command(6)});
     EXPECT_EQ(k->findChild<QLabel*>("Maximi")->text(), " 1000;-");
     EXPECT_EQ(k->findChild<QLabel*>("otsikko")->text(), "Rahatilanteesi");
     EXPECT_EQ(VertaaRuutua(i.peli, k, "Käyrät"), 23) << "all but the net list, the notice and the picture";
@@ -48,24 +49,22 @@ TEST(CurvesWindow, TheCurveIsDrawnWithItsLabelsAtAnySize) {
         EXPECT_FALSE(Punainen(Kohta(kuva, 150, 200))) << koko.width();
     }
     // The net table, then the picture's notice before any month end.
-    QTest::mouseClick(k->Command(9), Qt::LeftButton);
+    Klikkaa({k->Command(9)});
     EXPECT_EQ(VertaaRuutua(i.peli, k, "Käyrät"), 23);
-    QTest::mouseClick(k->Command(10), Qt::LeftButton);
+    Klikkaa({k->Command(10)});
     EXPECT_TRUE(k->findChild<QLabel*>("Ilmoitusteksti")->isVisible());
     QTest::keyClick(k, Qt::Key_Escape);
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 
-TEST(CurvesWindow, TheMonthsPictureShowsAndAKeyHidesIt) {
-    Ikkuna i;
-    i.Aloita();
-    i.peli.m.Päivä = 30;
-    QTest::mouseClick(i.w->tanhua()->Command4(), Qt::LeftButton);
+TEST_F(CurvesWindow, TheMonthsPictureShowsAndAKeyHidesIt) {
+    m.Päivä = 30;
+    Klikkaa({i.w->tanhua()->Command4()});
     ASSERT_FALSE(i.w->KuukaudenvaihdeKuva.isNull());
     i.w->raportti()->findChild<QPushButton*>("Command1")->click();
-    QTest::mouseClick(i.w->tanhua()->Stat(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Stat()});
     Käyrät* k = i.w->käyrät();
-    QTest::mouseClick(k->Command(10), Qt::LeftButton);
+    Klikkaa({k->Command(10)});
     EXPECT_TRUE(k->Kuva()->isVisible());
     EXPECT_FALSE(k->Command(6)->isEnabled()) << "the picture covers the buttons";
     EXPECT_EQ(VertaaRuutua(i.peli, k, "Käyrät"), 24);
@@ -74,35 +73,25 @@ TEST(CurvesWindow, TheMonthsPictureShowsAndAKeyHidesIt) {
     EXPECT_EQ(i.w->pino()->currentWidget(), k) << "the key only hid the picture";
 }
 
-TEST(RacesWindow, ACouponFromTheWayInToTheSheet) {
-    Ikkuna i;
-    i.Aloita();
-    const float raha = i.peli.m.Raha;
+TEST_F(RacesWindow, ACouponFromTheWayInToTheSheet) {
+    const float raha = m.Raha;
     // The notice is the plain box: closed as a player would.
-    QTimer::singleShot(0, [] {
-        if (QWidget* laatikko = QApplication::activeModalWidget()) laatikko->close();
-    });
+    Ikkuna::SuljeLaatikko();
     i.w->AvaaRavit();
     Ravit* r = i.w->ravit();
     ASSERT_EQ(i.w->pino()->currentWidget(), r);
     EXPECT_EQ(VertaaRuutua(i.peli, r, "Ravit"), 2);
-    QTest::mouseClick(r->Command(2), Qt::LeftButton);
-    QTest::mouseClick(r->Command(9), Qt::LeftButton);
-    QTest::mouseClick(r->Rivi(2), Qt::LeftButton);
-    QTest::mouseClick(r->Kerroin(4), Qt::LeftButton);
-    QTest::mouseClick(r->Command(7), Qt::LeftButton);
+    Klikkaa({r->Command(2), r->Command(9), r->Rivi(2), r->Kerroin(4), r->Command(7)});
     EXPECT_EQ(i.peli.raviruutu.Ruutu[4], "X");
     EXPECT_EQ(i.peli.raviruutu.otsikko, " Rivi :  3");
     EXPECT_FALSE(r->RaviNimi(0)->text().isEmpty());
     EXPECT_EQ(VertaaRuutua(i.peli, r, "Ravit"), 52);
-    QTimer::singleShot(0, [] {
-        if (QWidget* laatikko = QApplication::activeModalWidget()) laatikko->close();
-    });
-    QTest::mouseClick(r->Command(4), Qt::LeftButton);
+    Ikkuna::SuljeLaatikko();
+    Klikkaa({r->Command(4)});
     EXPECT_TRUE(r->Tulos()->isVisible());
     EXPECT_EQ(VertaaRuutua(i.peli, r, "Ravit"), 4);
-    EXPECT_EQ(i.peli.m.Raha, raha);
-    QTest::mouseClick(r->Command(1), Qt::LeftButton);
+    EXPECT_EQ(m.Raha, raha);
+    Klikkaa({r->Command(1)});
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 

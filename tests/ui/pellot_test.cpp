@@ -15,26 +15,23 @@
 namespace tanhua::ui {
 namespace {
 
-using testi::Ikkuna;
+using testi::Klikkaa;
 using testi::VertaaRuutua;
+using LandScreen = testi::Pelissä;
 
-TEST(LandScreen, ABuyARefusalAndTheForestersPanel) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(LandScreen, ABuyARefusalAndTheForestersPanel) {
     // The star lock keeps the button off until the first star.
     EXPECT_FALSE(i.w->tanhua()->Command5()->isEnabled());
     Aseta(m.Tähdet, 1);
     i.w->PalaaPääruutuun();
-    QTest::mouseClick(i.w->tanhua()->Command5(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command5()});
     Pellot* p = i.w->pellot();
     ASSERT_EQ(i.w->pino()->currentWidget(), p);
     EXPECT_EQ(VertaaRuutua(i.peli, p, "Pellot"), 6);
 
     Aseta(m.Raha, 100000);
     m.LantaPeltoon = true;
-    QTest::mouseClick(p->Maa(MaaPelto), Qt::LeftButton);
-    QTest::mouseClick(p->Command7(), Qt::LeftButton);
+    Klikkaa({p->Maa(MaaPelto), p->Command7()});
     EXPECT_EQ(m.Pelto, 1);
     EXPECT_EQ(i.w->rahaKyltti()->Rahatilaz()->text(), " 87975") << "the plate after the trade";
     // The card with the manure picture: its 15 controls and the six of the screen.
@@ -42,15 +39,14 @@ TEST(LandScreen, ABuyARefusalAndTheForestersPanel) {
 
     Aseta(m.Raha, 100);
     i.VastaaNäppäimellä(Qt::Key_K);
-    QTest::mouseClick(p->Command7(), Qt::LeftButton);
+    Klikkaa({p->Command7()});
     EXPECT_EQ(i.peli.näkymä.MsgTeksti.rfind("Ei sinulla ole varaa", 0), 0u);
     EXPECT_EQ(m.Pelto, 1);
 
     Aseta(m.Rak[Saha], 1);
     Aseta(m.Työ[Metsuri], 1);
     i.w->Päivitä();
-    QTest::mouseClick(p->MetsuriKuva(), Qt::LeftButton);
-    QTest::mouseClick(p->Metsitä(), Qt::LeftButton);
+    Klikkaa({p->MetsuriKuva(), p->Metsitä()});
     EXPECT_EQ(m.Pellot_Metsitä, 1);
     EXPECT_EQ(VertaaRuutua(i.peli, p, "Pellot"), 26);
     // Esc hides the card and the panel, then leaves the screen.
@@ -60,39 +56,32 @@ TEST(LandScreen, ABuyARefusalAndTheForestersPanel) {
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 
-TEST(LandScreen, SowingAndHarvestScreens) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(LandScreen, SowingAndHarvestScreens) {
     Aseta(m.Raha, 100000);
     Aseta(m.Pelto, 4);
-    QTest::mouseClick(i.w->tanhua()->Command5(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command5()});
     Pellot* p = i.w->pellot();
     // Nothing in play shows the sowing picture; here it is shown by hand.
     i.peli.peltoruutu.Image4 = true;
     i.w->Päivitä();
-    QTest::mouseClick(p->Image4(), Qt::LeftButton);
+    Klikkaa({p->Image4()});
     Kylvö* k = i.w->kylvö();
     ASSERT_EQ(i.w->pino()->currentWidget(), k);
-    QTest::mouseClick(k->Kuva(Peruna), Qt::LeftButton);
-    QTest::mouseClick(k->plus(), Qt::LeftButton);
-    QTest::mouseClick(k->plus(), Qt::LeftButton);
-    QTest::mouseClick(k->Command3(), Qt::LeftButton);
-    QTest::mouseClick(k->Myrkytetään(), Qt::LeftButton);
+    Klikkaa({k->Kuva(Peruna), k->plus(), k->plus(), k->Command3(), k->Myrkytetään()});
     EXPECT_EQ(i.peli.kylvöruutu.ala[Peruna], 2);
     EXPECT_EQ(VertaaRuutua(i.peli, k, "Kylvö"), 26);
-    QTest::mouseClick(k->Command2(), Qt::LeftButton);
+    Klikkaa({k->Command2()});
     ASSERT_EQ(i.w->pino()->currentWidget(), p);
     EXPECT_EQ(m.Kylvetty[Peruna], 2);
     EXPECT_TRUE(p->Image5()->isVisible());
     EXPECT_FALSE(p->Image4()->isVisible());
 
-    QTest::mouseClick(p->Image5(), Qt::LeftButton);
+    Klikkaa({p->Image5()});
     Nosto* n = i.w->nosto();
     ASSERT_EQ(i.w->pino()->currentWidget(), n);
-    QTest::mouseClick(n->Command4(), Qt::LeftButton);
+    Klikkaa({n->Command4()});
     EXPECT_EQ(VertaaRuutua(i.peli, n, "Nosto"), 19);
-    QTest::mouseClick(n->Command2(), Qt::LeftButton);
+    Klikkaa({n->Command2()});
     EXPECT_EQ(i.w->pino()->currentWidget(), p);
     EXPECT_EQ(m.KylvettyAla, 0);
     EXPECT_TRUE(p->Image4()->isVisible());

@@ -12,10 +12,12 @@
 #include <QTest>
 
 #include "buildings/taulut/rakennuskatalogi.h"
+#include "contracts/sopimukset.h"
 #include "core/viestit.h"
 #include "ui/Eläimet.h"
 #include "ui/Pankki.h"
 #include "ui/Rakennukset.h"
+#include "ui/Sopimukset.h"
 #include "ui/Tanhua.h"
 #include "ui/Tarvikkeet.h"
 #include "ui/Tuotteet.h"
@@ -26,9 +28,11 @@ namespace tanhua::ui {
 namespace {
 
 using testi::Ikkuna;
+using testi::Klikkaa;
 using testi::VertaaRuutua;
+using Screens = testi::Pelissä;
 
-TEST(Screens, TheStartScreenTheMainScreenAndTheNewsWindowShowTheirControls) {
+TEST(StartAndMainScreens, ShowTheirControls) {
     Ikkuna i;
     QTest::keyClicks(i.w->alku()->Nimesi(), "Matti");
     QTest::mouseClick(i.w->alku()->findChild<QPushButton*>("Command3"), Qt::LeftButton);  // Vaikea
@@ -44,13 +48,10 @@ TEST(Screens, TheStartScreenTheMainScreenAndTheNewsWindowShowTheirControls) {
     for (int päivä = 0; päivä < 2; ++päivä) QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
     EXPECT_GT(VertaaRuutua(i.peli, i.w->tanhua(), "Tanhua"), 20);
     EXPECT_TRUE(i.w->tanhua()->Lista()->isVisible());
-    EXPECT_EQ(i.peli.m.Vaikeustaso, 2);
+    EXPECT_EQ(m.Vaikeustaso, 2);
 }
 
-TEST(Screens, TheAnimalScreenWithACardAndBothPanels) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(Screens, TheAnimalScreenWithACardAndBothPanels) {
     m.OhjeetPäällä = true;
     Aseta(m.Koko_Navetta, 100);
     Aseta(m.Rak[Teurastamo], 1);
@@ -60,12 +61,12 @@ TEST(Screens, TheAnimalScreenWithACardAndBothPanels) {
     m.El[Kettu][Poikanen] = 5;
     m.Eläimet.Teuras = {0, 0, 0, 1, 0};
     m.Eläimet.TeurasRaja[7] = "2";
-    QTest::mouseClick(i.w->tanhua()->Command1(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command1()});
     Eläimet* e = i.w->eläimet();
     QTest::mouseClick(e->Kuva(7), Qt::LeftButton);  // Kukko
-    QTest::mouseClick(e->Plus(), Qt::LeftButton);
+    Klikkaa({e->Plus()});
     QTest::mouseClick(e->Osta(), Qt::LeftButton);   // twelve cocks: past the limit of 2
-    QTest::mouseClick(e->NahkuriKuva(), Qt::LeftButton);
+    Klikkaa({e->NahkuriKuva()});
     ASSERT_TRUE(e->TeurasPaneeli()->isVisible());
     EXPECT_GT(VertaaRuutua(i.peli, e, "Eläimet"), 60);
     QTest::keyClick(e, Qt::Key_Escape);  // hides the card
@@ -73,38 +74,30 @@ TEST(Screens, TheAnimalScreenWithACardAndBothPanels) {
     VertaaRuutua(i.peli, e, "Eläimet");
 }
 
-TEST(Screens, TheProductScreenWithTheManureCardAndTheAccountantsPanel) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(Screens, TheProductScreenWithTheManureCardAndTheAccountantsPanel) {
     Aseta(m.Työ[Kirjanpitäjä], 1);
     Aseta(m.Var[Lanta], 12.5);
     m.Tuotteet.Myy[Muna] = 1;
     m.Tuotteet.MyyTyyli[Muna] = "Puolet";
-    QTest::mouseClick(i.w->tanhua()->Command3(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command3()});
     Tuotteet* t = i.w->tuotteet();
-    QTest::mouseClick(t->Kuva(Lanta), Qt::LeftButton);
-    QTest::mouseClick(t->KirjanpitäjäKuva(), Qt::LeftButton);
+    Klikkaa({t->Kuva(Lanta), t->KirjanpitäjäKuva()});
     ASSERT_TRUE(t->Taulu()->isVisible());
     EXPECT_EQ(t->findChild<QLabel*>("MyyntiAika")->text(), "joka viikko");
     EXPECT_GT(VertaaRuutua(i.peli, t, "Tuotteet"), 80);
 }
 
-TEST(Screens, TheBuildingScreenWithItsOrdersAndProductionPanels) {
-    Ikkuna i;
-    i.Aloita();
+TEST_F(Screens, TheBuildingScreenWithItsOrdersAndProductionPanels) {
     // One star: the sawmill is locked over its running order, the mill has an order, the barn two.
-    i.peli.m.Tähdet = 1;
-    i.peli.m.Raha = 500000;
-    i.peli.m.Rak[Mylly] = 2;
-    i.peli.m.RakAika[Saha] = 12;
-    i.peli.m.RakAika[Mylly] = 30;
-    QTest::mouseClick(i.w->tanhua()->Command2(), Qt::LeftButton);
+    m.Tähdet = 1;
+    m.Raha = 500000;
+    m.Rak[Mylly] = 2;
+    m.RakAika[Saha] = 12;
+    m.RakAika[Mylly] = 30;
+    Klikkaa({i.w->tanhua()->Command2()});
     Rakennukset* r = i.w->rakennukset();
     ASSERT_EQ(i.w->pino()->currentWidget(), r);
-    QTest::mouseClick(r->Kuva(Työmaa(Navetta)), Qt::LeftButton);
-    QTest::mouseClick(r->Plus(), Qt::LeftButton);
-    QTest::mouseClick(r->Command2(), Qt::LeftButton);
+    Klikkaa({r->Kuva(Työmaa(Navetta)), r->Plus(), r->Command2()});
     VertaaRuutua(i.peli, r, "Rakennukset");
     EXPECT_EQ(r->findChild<QLabel*>("RakenneSahaz")->text(), "Lukittu");
     // The locked label tells the stars that open it; a label with no tip of its own shows none.
@@ -114,9 +107,9 @@ TEST(Screens, TheBuildingScreenWithItsOrdersAndProductionPanels) {
     EXPECT_EQ(r->hintanäky()->text(), " 20000");
 
     // A built building chosen: its production panel takes the text's place and the level shows.
-    QTest::mouseClick(r->findChild<QLabel*>("RakenneMyllyz"), Qt::LeftButton);
-    i.peli.m.RakAika[Mylly] = 0;
-    QTest::mouseClick(r->Kuva(Mylly), Qt::LeftButton);
+    Klikkaa({r->findChild<QLabel*>("RakenneMyllyz")});
+    m.RakAika[Mylly] = 0;
+    Klikkaa({r->Kuva(Mylly)});
     VertaaRuutua(i.peli, r, "Rakennukset");
     EXPECT_EQ(r->findChild<QLabel*>("taso")->text(), "2 / 5");
     EXPECT_FALSE(r->Plus()->isEnabled());
@@ -126,13 +119,13 @@ TEST(Screens, TheBuildingScreenWithItsOrdersAndProductionPanels) {
     m.Rak[Kasvihuone] = 1;
     m.Tulo[Juusto] = 1234;
     m.Tuotanto[Meijeri] = 0;
-    QTest::mouseClick(r->Kuva(Meijeri), Qt::LeftButton);
+    Klikkaa({r->Kuva(Meijeri)});
     EXPECT_EQ(m.Tuotanto[Meijeri], 100);
     EXPECT_FALSE(r->Rakennus_Tuotanto()->isVisible());
     EXPECT_FALSE(r->findChild<QLabel*>("RaakaKuva")->isVisible());
     // Built, it shows its month's output, its product pictures and the slider.
     m.Rak[Meijeri] = 1;
-    QTest::mouseClick(r->Kuva(Meijeri), Qt::LeftButton);
+    Klikkaa({r->Kuva(Meijeri)});
     VertaaRuutua(i.peli, r, "Rakennukset");
     auto* info = r->findChild<QLabel*>("info");
     EXPECT_TRUE(info->text().startsWith("Meijerin tämän kk:n tuotto: \r\nBruttotuotto :1234/kk\r\n"));
@@ -149,7 +142,7 @@ TEST(Screens, TheBuildingScreenWithItsOrdersAndProductionPanels) {
     // The greenhouse has a panel but no slider, and in winter no net line.
     for (const char* vuodenaika : {"Talvi", "Kesä"}) {
         m.Vuodenaika = vuodenaika;
-        QTest::mouseClick(r->Kuva(Kasvihuone), Qt::LeftButton);
+        Klikkaa({r->Kuva(Kasvihuone)});
         VertaaRuutua(i.peli, r, "Rakennukset");
         EXPECT_FALSE(r->Rakennus_Tuotanto()->isVisible());
         EXPECT_TRUE(info->text().startsWith("Kasvihuoneen tämän kk:n tuotto: "));
@@ -159,77 +152,116 @@ TEST(Screens, TheBuildingScreenWithItsOrdersAndProductionPanels) {
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua()) << "Esc leaves the building screen";
 }
 
-TEST(Screens, TheSuppliesShopShowsItsControlsAsTheGameReadsThem) {
-    Ikkuna i;
-    i.Aloita();
+TEST_F(Screens, TheSuppliesShopShowsItsControlsAsTheGameReadsThem) {
     EXPECT_FALSE(i.w->tanhua()->Command9()->isEnabled()) << "the supplies wait for the first star";
-    i.peli.m.Tähdet = 1;
-    i.peli.m.Raha = 30000;
+    m.Tähdet = 1;
+    m.Raha = 30000;
     i.w->PalaaPääruutuun();
-    QTest::mouseClick(i.w->tanhua()->Command9(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command9()});
     Tarvikkeet* t = i.w->tarvikkeet();
     ASSERT_EQ(i.w->pino()->currentWidget(), t);
     EXPECT_EQ(VertaaRuutua(i.peli, i.w->rahaKyltti(), "RahaKyltti"), 1);
-    QTest::mouseClick(t->Command3(), Qt::LeftButton);
+    Klikkaa({t->Command3()});
     t->Lista()->setCurrentRow(8);  // Kirnu
-    QTest::mouseClick(t->Command5(), Qt::LeftButton);
-    QTest::mouseClick(t->Command4(), Qt::LeftButton);
+    Klikkaa({t->Command5(), t->Command4()});
     t->Lista()->setCurrentRow(5);  // Kaivo
-    QTest::mouseClick(t->Command5(), Qt::LeftButton);
-    QTest::mouseClick(t->Command6(), Qt::LeftButton);
+    Klikkaa({t->Command5(), t->Command6()});
     t->Lista()->setCurrentRow(1);
     VertaaRuutua(i.peli, t, "Tarvikkeet");
     EXPECT_EQ(t->Lista()->count(), 2);
     EXPECT_EQ(t->Lista()->currentItem()->text(), "Kaivo");
     EXPECT_EQ(t->hinta()->text(), "6000");
     EXPECT_EQ(t->Command5()->text(), "Myy");
-    EXPECT_EQ(i.peli.m.Raha, 7000);
+    EXPECT_EQ(m.Raha, 7000);
 }
 
-TEST(Screens, TheStaffScreenAndTheBankShowTheirControls) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(Screens, TheStaffScreenAndTheBankShowTheirControls) {
     m.Tähdet = 2;
     m.Rak[Leipomo] = 1;
     m.Työ[Leipuri] = 1;
     m.Työ[Siivooja] = 3;
-    QTest::mouseClick(i.w->tanhua()->Command8(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command8()});
     Työvoima* t = i.w->työvoima();
     ASSERT_EQ(i.w->pino()->currentWidget(), t);
     const auto rivit = t->Lista()->findItems("Leipuri", Qt::MatchExactly);
     ASSERT_EQ(rivit.size(), 1);
     t->Lista()->setCurrentItem(rivit.front());
-    QTest::mouseClick(t->Command3(), Qt::LeftButton);
-    QTest::mouseClick(t->Command7(), Qt::LeftButton);
+    Klikkaa({t->Command3(), t->Command7()});
     t->mittari()->setValue(370);
     EXPECT_EQ(m.Palkka[Leipuri], 5370);
     EXPECT_EQ(VertaaRuutua(i.peli, t, "Työvoima"), 18);
     EXPECT_EQ(t->palk()->text(), " 5370");
-    QTest::mouseClick(t->Command1(), Qt::LeftButton);
+    Klikkaa({t->Command1()});
 
-    QTest::mouseClick(i.w->tanhua()->Command6(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command6()});
     Pankki* p = i.w->pankki();
     ASSERT_EQ(i.w->pino()->currentWidget(), p);
-    QTest::mouseClick(p->Command2(), Qt::LeftButton);
+    Klikkaa({p->Command2()});
     QTest::keyClicks(p->summa(), "3000");
-    QTest::mouseClick(p->Command8(), Qt::LeftButton);
+    Klikkaa({p->Command8()});
     EXPECT_EQ(m.Laina, 3000);
     // The loan sheet shows with "Hyväksy" off; the insurance sheet's controls are out of sight.
     EXPECT_EQ(VertaaRuutua(i.peli, p, "Pankki"), 20);
     EXPECT_FALSE(p->Command8()->isEnabled());
-    QTest::mouseClick(p->vaku(), Qt::LeftButton);
-    QTest::mouseClick(p->Vakuutus(VakuutusTyö), Qt::LeftButton);
+    Klikkaa({p->vaku(), p->Vakuutus(VakuutusTyö)});
     EXPECT_EQ(i.peli.pankkiruutu.Vakusummaz, "600");  // five workers and the base
     EXPECT_EQ(VertaaRuutua(i.peli, p, "Pankki"), 24);
     // Esc hides the sheets; the bank opened again shows none and a fresh loan sheet can be confirmed.
     QTest::keyClick(p, Qt::Key_Escape);
     QTest::keyClick(p, Qt::Key_Escape);
     m.Laina = 0;
-    QTest::mouseClick(i.w->tanhua()->Command6(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command6()});
     EXPECT_EQ(VertaaRuutua(i.peli, p, "Pankki"), 10);
-    QTest::mouseClick(p->Command2(), Qt::LeftButton);
+    Klikkaa({p->Command2()});
     EXPECT_TRUE(p->Command8()->isEnabled());
+}
+
+TEST_F(Screens, ThePhoneOpensTheContractsAndACallEndsInAnAnswer) {
+    Aseta(m.El[Nauta][Naaras], 10);
+    Aseta(m.Päivä, 5);
+    // The day's step forced to a call about milk.
+    for (double r : {0.0, 0.0, 0.5}) i.peli.arvonta.Jonoon(r);
+    i.w->Toimi([&] { Sopimustarjous(i.peli); });
+    Tanhua* t = i.w->tanhua();
+    ASSERT_TRUE(t->Puhelin()->isVisible());
+    EXPECT_GT(VertaaRuutua(i.peli, t, "Tanhua"), 20);
+
+    Klikkaa({t->Puhelin()});
+    Sopimukset* s = i.w->sopimukset();
+    ASSERT_EQ(i.w->pino()->currentWidget(), s);
+    EXPECT_FALSE(i.peli.näkymä.Puhelin);
+    Klikkaa({s->Command5()});
+    QListWidget* lista = s->Sopimuksia();
+    ASSERT_EQ(lista->count(), 1);
+    // The terms: half the base amount, the price as it stands, 17 months.
+    for (double r : {0.0, 0.5, 0.99, 0.0, 0.0, 0.0, 0.0}) i.peli.arvonta.Jonoon(r);
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(lista->item(0)).center());
+    ASSERT_TRUE(i.peli.sopimusruutu.Puhelussa);
+    EXPECT_EQ(i.peli.arvonta.JonossaJäljellä(), 0u);
+    EXPECT_TRUE(s->infoa()->text().startsWith("Paikallinen yhtiö on valmis tekemään kanssasi Maito-sopimuksen."));
+
+    // "Sulje" is refused while the buyer waits for an answer.
+    i.VastaaNäppäimellä(Qt::Key_K);
+    Klikkaa({s->Command1()});
+    EXPECT_EQ(i.w->pino()->currentWidget(), s);
+    i.VastaaNäppäimellä(Qt::Key_K);
+    Klikkaa({s->Command3()});
+    EXPECT_EQ(m.Sop[0].Tuote, "Maito");
+    EXPECT_EQ(lista->count(), 0);
+    Klikkaa({s->Command6()});
+    EXPECT_EQ(s->findChild<QLabel*>("s1kestoz")->text(), "1 v 5 kk");
+    EXPECT_TRUE(s->findChild<QLabel*>("s1hintaz")->text().endsWith(" /KK"));
+    EXPECT_TRUE(s->findChild<QLabel*>("s1määräz")->text().endsWith(" /KK"));
+    EXPECT_EQ(VertaaRuutua(i.peli, s, "Sopimukset"), 35);
+
+    // A click on the product chooses it for cancelling; "Ei" keeps it.
+    Klikkaa({s->Tuote(0)});
+    EXPECT_EQ(s->findChild<QLabel*>("Peruttava")->text(), "Maito");
+    i.VastaaNäppäimellä(Qt::Key_E);
+    Klikkaa({s->Command7()});
+    EXPECT_EQ(m.Sop[0].Tuote, "Maito");
+    Klikkaa({s->Command1()});
+    EXPECT_EQ(i.w->pino()->currentWidget(), t);
 }
 
 }  // namespace

@@ -14,15 +14,13 @@ namespace {
 
 using testi::Ikkuna;
 using testi::VertaaRuutua;
+using WindowEvents = testi::Pelissä;
 
 void Jonoon(Peli& peli, std::initializer_list<double> arvot) {
     for (double a : arvot) peli.arvonta.Jonoon(a);
 }
 
-TEST(WindowEvents, AForcedEventShowsItsLinePictureAndText) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(WindowEvents, AForcedEventShowsItsLinePictureAndText) {
     Aseta(m.Koko_Navetta, 1000);
     Aseta(m.Raha, 20000);
     // No wage talks, the day's draw hits, number 20: a barn fire.
@@ -53,7 +51,7 @@ TEST(WindowEvents, AForcedEventShowsItsLinePictureAndText) {
     EXPECT_GE(teksti->height(), teksti->heightForWidth(teksti->width()));
 }
 
-TEST(WindowEvents, TheCallersQuestionIsAnsweredWithKOrE) {
+TEST(CallersQuestion, IsAnsweredWithKOrE) {
     struct Tapaus { Qt::Key näppäin; std::initializer_list<double> arvot; float raha; const char* rivi; };
     for (const Tapaus& c : {Tapaus{Qt::Key_K, {0.5, 0, 50.5 / 60, 0.7, 0.25, 0.3}, 19000, "Maksoit suojelurahaa  1000"},
                             Tapaus{Qt::Key_E, {0.5, 0, 50.5 / 60, 0.7, 0.25, 0.9, 0.5}, 20000, "Kieltäydyit suojelurahasta."}}) {

@@ -18,7 +18,9 @@ namespace tanhua::ui {
 namespace {
 
 using testi::Ikkuna;
+using testi::Klikkaa;
 using testi::VertaaRuutua;
+using ScreenFold = testi::Pelissä;
 
 TEST(MusicPlayerPanel, SlidesOutWithTheSongsAndASongsEndPlaysTheNext) {
     Ikkuna i;
@@ -28,7 +30,7 @@ TEST(MusicPlayerPanel, SlidesOutWithTheSongsAndASongsEndPlaysTheNext) {
     i.peli.asetukset.BiisiSatunnainen = false;
     Player* panel = i.w->tanhua()->player();
     EXPECT_FALSE(panel->isVisible());
-    QTest::mouseClick(i.w->tanhua()->PlayerLogo(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->PlayerLogo()});
     ASSERT_TRUE(panel->isVisible());
     EXPECT_EQ(panel->y(), i.w->tanhua()->height() / 3) << "the slide ends a third of the way down";
     EXPECT_GE(panel->MidiFile()->count(), 2);
@@ -46,14 +48,12 @@ TEST(MusicPlayerPanel, SlidesOutWithTheSongsAndASongsEndPlaysTheNext) {
     EXPECT_TRUE(i.w->tanhua()->Command4()->hasFocus());
 }
 
-TEST(ScreenFold, AScreenOpensAndClosesWholeWithTheFocusBackOnTheNextDay) {
-    Ikkuna i;
-    i.Aloita();
+TEST_F(ScreenFold, AScreenOpensAndClosesWholeWithTheFocusBackOnTheNextDay) {
     i.peli.asetukset.Animaatiot = true;
     i.peli.asetukset.AnimNopeus = 100;
     i.peli.asetukset.Prosessorisäästö = true;
     const QRect sivu = i.w->tanhua()->geometry();
-    QTest::mouseClick(i.w->tanhua()->Command1(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command1()});
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->eläimet());
     EXPECT_EQ(i.w->eläimet()->geometry(), sivu) << "the screen ends at its own size";
     EXPECT_TRUE(i.w->eläimet()->isEnabled());
@@ -63,9 +63,7 @@ TEST(ScreenFold, AScreenOpensAndClosesWholeWithTheFocusBackOnTheNextDay) {
     EXPECT_TRUE(i.w->tanhua()->Command4()->hasFocus());
     // The race coupon folds open from the stable and back to it, each at its own size at the end.
     i.w->AvaaRuutu(i.w->hevostalli());
-    QTimer::singleShot(0, [] {
-        if (QWidget* laatikko = QApplication::activeModalWidget()) laatikko->close();
-    });
+    Ikkuna::SuljeLaatikko();
     struct Koot : QObject {
         int muutoksia = 0;
         bool eventFilter(QObject*, QEvent* e) override {
@@ -80,7 +78,7 @@ TEST(ScreenFold, AScreenOpensAndClosesWholeWithTheFocusBackOnTheNextDay) {
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->ravit());
     EXPECT_EQ(i.w->ravit()->geometry(), sivu);
     EXPECT_TRUE(i.w->hevostalli()->isEnabled());
-    QTest::mouseClick(i.w->ravit()->Command(1), Qt::LeftButton);
+    Klikkaa({i.w->ravit()->Command(1)});
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->hevostalli());
     EXPECT_EQ(i.w->hevostalli()->geometry(), sivu);
     EXPECT_TRUE(i.w->hevostalli()->isEnabled());

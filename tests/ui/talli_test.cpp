@@ -14,16 +14,14 @@
 namespace tanhua::ui {
 namespace {
 
-using testi::Ikkuna;
+using testi::Klikkaa;
 using testi::VertaaRuutua;
+using StableWindow = testi::Pelissä;
 
 // The stylesheet colour of a label as "rgb(r,g,b)".
 bool Värinen(const QLabel* l, const char* rgb) { return l->styleSheet().contains(rgb); }
 
-TEST(StableWindow, TheSliderSetsTheHourPriceAndTheCrowdingTurnsYellowThenRed) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(StableWindow, TheSliderSetsTheHourPriceAndTheCrowdingTurnsYellowThenRed) {
     m.Rak[Rakennus::Hevostalli] = 1;
     m.El[Hevonen][Naaras] = 2;
     m.Laidun = 10;
@@ -31,13 +29,13 @@ TEST(StableWindow, TheSliderSetsTheHourPriceAndTheCrowdingTurnsYellowThenRed) {
     EXPECT_FALSE(i.w->tanhua()->Hepotalli()->isVisible());
     QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
     ASSERT_TRUE(i.w->tanhua()->Hepotalli()->isVisible()) << "a day with a stable and a mare shows the button";
-    QTest::mouseClick(i.w->tanhua()->Hepotalli(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Hepotalli()});
     Hevostalli* h = i.w->hevostalli();
     ASSERT_EQ(i.w->pino()->currentWidget(), h);
     EXPECT_EQ(VertaaRuutua(i.peli, h, "Hevostalli"), 8);
     EXPECT_EQ(h->Ratsastus()->count(), 1);
 
-    QTest::mouseClick(h->Command3(), Qt::LeftButton);
+    Klikkaa({h->Command3()});
     ASSERT_TRUE(h->Hinnasto()->isVisible());
     h->rulla()->setValue(4);
     EXPECT_EQ(m.TuntiHinta, 100);
@@ -53,14 +51,11 @@ TEST(StableWindow, TheSliderSetsTheHourPriceAndTheCrowdingTurnsYellowThenRed) {
         i.w->Päivitä();
         EXPECT_TRUE(Värinen(h->KapasiteettiZ(), c.väri)) << c.hevosia << " " << S(h->KapasiteettiZ()->styleSheet());
     }
-    QTest::mouseClick(h->Command1(), Qt::LeftButton);
+    Klikkaa({h->Command1()});
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 
-TEST(StableWindow, ATalkAnsweredNoThenYesLeavesTheNewsWindowWithTheAgreement) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(StableWindow, ATalkAnsweredNoThenYesLeavesTheNewsWindowWithTheAgreement) {
     i.peli.asetukset.Äänitehosteet = false;
     m.PerusPalkka[Tallimestari] = m.Palkka[Tallimestari] = 6000;
     m.Työ[Tallimestari] = 1;

@@ -19,24 +19,23 @@ namespace tanhua::ui {
 namespace {
 
 using testi::Ikkuna;
+using testi::Klikkaa;
 using testi::VertaaRuutua;
+using TilanneScreen = testi::Pelissä;
 
-TEST(TilanneScreen, SavesAndOpensThroughThePanel) {
-    Ikkuna i;
-    i.Aloita();
-    Muuttujat& m = i.peli.m;
+TEST_F(TilanneScreen, SavesAndOpensThroughThePanel) {
     m.OhjeetPäällä = true;
-    QTest::mouseClick(i.w->tanhua()->Command7(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command7()});
     Tilanne* t = i.w->tilanne();
     ASSERT_EQ(i.w->pino()->currentWidget(), t);
     EXPECT_EQ(t->Alue()->Rivit().at(2), "      Vaikeustaso : Normaali");
     EXPECT_EQ(i.peli.tilanneruutu.Ohje, "Tervetuloa tilanne valikkoon");
     EXPECT_EQ(VertaaRuutua(i.peli, t, "Tilanne"), 6);
 
-    QTest::mouseClick(t->Command1(), Qt::LeftButton);
+    Klikkaa({t->Command1()});
     QTest::keyClicks(t->Kohde(), "Syksy");
     i.VastaaNäppäimellä(Qt::Key_K);
-    QTest::mouseClick(t->Command5(), Qt::LeftButton);
+    Klikkaa({t->Command5()});
     EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Tilanne tallennettu");
     ASSERT_EQ(t->File1()->count(), 1);
     EXPECT_EQ(t->File1()->item(0)->text(), "Syksy.sav");
@@ -50,7 +49,7 @@ TEST(TilanneScreen, SavesAndOpensThroughThePanel) {
     QTest::mouseClick(t->File1()->viewport(), Qt::LeftButton, {}, rivi.center());
     EXPECT_EQ(t->Kohde()->text(), "Syksy");
     i.VastaaNäppäimellä(Qt::Key_K);
-    QTest::mouseClick(t->Command6(), Qt::LeftButton);
+    Klikkaa({t->Command6()});
     EXPECT_EQ(i.peli.näkymä.MsgTeksti, "Tilanne avattu onnistuneesti");
     EXPECT_EQ(m.Raha, 10000);
     // Esc closes the panel first, then the screen.
@@ -60,20 +59,20 @@ TEST(TilanneScreen, SavesAndOpensThroughThePanel) {
     EXPECT_EQ(i.w->pino()->currentWidget(), i.w->tanhua());
 }
 
-TEST(TilanneScreen, TheStoryPrintsAndTheListTakesAName) {
+TEST(TilanneStory, PrintsAndTheListTakesAName) {
     Ikkuna i;
     i.Aloita("Pirkko");
     i.peli.m.Raha = 60000;
-    QTest::mouseClick(i.w->tanhua()->Command7(), Qt::LeftButton);
+    Klikkaa({i.w->tanhua()->Command7()});
     Tilanne* t = i.w->tilanne();
     i.VastaaNäppäimellä(Qt::Key_K);
-    QTest::mouseClick(t->Command4(), Qt::LeftButton);
+    Klikkaa({t->Command4()});
     ASSERT_TRUE(t->Tarina()->isVisible());
     EXPECT_EQ(t->Tarina()->Rivit().at(1), "          Sinun tarinasi:");
     EXPECT_EQ(t->Tarina()->Rivit().back(), "       Loppu.......");
     EXPECT_EQ(VertaaRuutua(i.peli, t, "Tilanne"), 7);
     // The screen's Sulje does nothing while the story shows.
-    QTest::mouseClick(t->Command3(), Qt::LeftButton);
+    Klikkaa({t->Command3()});
     EXPECT_EQ(i.w->pino()->currentWidget(), t);
 
     // The score of 500 takes row 1 of a fresh list; the prompt is answered with a name.
@@ -85,7 +84,7 @@ TEST(TilanneScreen, TheStoryPrintsAndTheListTakesAName) {
         kysely->setTextValue("Pirkko P");
         kysely->accept();
     });
-    QTest::mouseClick(t->TarinaSulje(), Qt::LeftButton);
+    Klikkaa({t->TarinaSulje()});
     Topten* l = i.w->topten();
     ASSERT_EQ(i.w->pino()->currentWidget(), l);
     EXPECT_EQ(l->n(1)->text(), "Pirkko P");
@@ -93,7 +92,7 @@ TEST(TilanneScreen, TheStoryPrintsAndTheListTakesAName) {
     EXPECT_EQ(l->p(2)->text(), "100");
     EXPECT_EQ(VertaaRuutua(i.peli, l, "Topten"), 23);
     // Closing the list writes it and ends the program.
-    QTest::mouseClick(l->Command1(), Qt::LeftButton);
+    Klikkaa({l->Command1()});
     EXPECT_TRUE(i.lopetettu);
     const auto rivit = ListanRivit(LueTiedosto(i.kansiot.data / "Topten.dat").value());
     ASSERT_EQ(rivit.size(), 20u);
