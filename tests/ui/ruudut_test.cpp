@@ -63,10 +63,8 @@ TEST_F(Screens, TheAnimalScreenWithACardAndBothPanels) {
     m.Eläimet.TeurasRaja[7] = "2";
     Klikkaa({i.w->tanhua()->Command1()});
     Eläimet* e = i.w->eläimet();
-    QTest::mouseClick(e->Kuva(7), Qt::LeftButton);  // Kukko
-    Klikkaa({e->Plus()});
-    QTest::mouseClick(e->Osta(), Qt::LeftButton);   // twelve cocks: past the limit of 2
-    Klikkaa({e->NahkuriKuva()});
+    // Twelve cocks bought, past the limit of 2, and the tanner's panel opened.
+    Klikkaa({e->Kuva(7), e->Plus(), e->Osta(), e->NahkuriKuva()});
     ASSERT_TRUE(e->TeurasPaneeli()->isVisible());
     EXPECT_GT(VertaaRuutua(i.peli, e, "Eläimet"), 60);
     QTest::keyClick(e, Qt::Key_Escape);  // hides the card
