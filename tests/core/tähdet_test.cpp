@@ -68,8 +68,8 @@ TEST(Stars, OneStarADay) {
 TEST(Stars, AClickShowsWhatTheStarAsks) {
     testi::Aloitettu t;
     NäytäTähti(t.peli, 0);
-    EXPECT_EQ(t.Tapahtumat(), std::vector<std::string>{
-                                  "VIESTI|0|Tähden saavuttamiseen :\\nEläimiä : 10, Siilo : 200, Varasto : 200\\n|vastattu"});
+    EXPECT_EQ(t.Tapahtumat(), std::vector<std::string>{"VIESTI|0|Tähden saavuttamiseen :\\nEläimiä : 10, Siilo : 200, "
+                                                       "Varasto : 200\\n|vastattu"});
     NäytäTähti(t.peli, 3);
     EXPECT_EQ(t.Tapahtumat(), std::vector<std::string>{
                                   "VIESTI|0|Tähden saavuttamiseen :\\nEläimiä : 50, Siilo : 1000, Varasto : 1000\\n, 3 "

@@ -70,7 +70,8 @@ TEST(Runner, BadLinesAreNamedAndStopTheScript) {
                             {"new A Vapaa 1 on\ncall Tilanne.Avaa\nanswer Kyllä\ncall Tilanne.UusiTilanne\ndays 1\n",
                              "line 5: days needs a farm"},
                             // The farm is given up at the program's end.
-                            {"new A Vapaa 1 on\nanswer Kyllä\ncall Tanhua.Lopetus\ndays 1\n", "line 4: days needs a farm"},
+                            {"new A Vapaa 1 on\nanswer Kyllä\ncall Tanhua.Lopetus\ndays 1\n",
+                             "line 4: days needs a farm"},
                             // Files of the data folder only, and bytes that are there.
                             {"file ../Asetukset.dat\n", "line 1: a file of the data folder is named without folders"},
                             {"poke Puuttuu.sav 0 1\n", "line 1: no file 'Puuttuu.sav'"},

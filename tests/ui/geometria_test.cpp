@@ -59,6 +59,7 @@ namespace tanhua::ui {
 namespace {
 
 using testi::Ikkuna;
+using testi::Klikkaa;
 
 // A widget as a failure names it: its object name, or its class where it has none.
 std::string Nimi(const QWidget* w) {
@@ -226,6 +227,14 @@ struct Geometry : ::testing::Test {
         Tarkastus::EiSiirry(nimi, ennen, ruutu);
     }
 
+    // Each step, then the screen as it stands, checked under the step's name.
+    void Vaiheittain(std::initializer_list<std::pair<std::string, std::function<void()>>> vaiheet) {
+        for (const auto& [tila, vaihe] : vaiheet) {
+            vaihe();
+            t.Ruutu(tila);
+        }
+    }
+
     Ikkuna i;
     Tarkastus t{Tila(i)};
 };
@@ -263,7 +272,8 @@ TEST_F(Geometry, TheAnimalsProductsBuildingsStaffAndLandWithEachCard) {
         t.Ruutu(nylky ? "Eläimet-Nahkuri" : "Eläimet-Teurastamo");
         AvaaTeuraspaneeli(i.peli, nylky);
     }
-    Korteittain(i.w->tuotteet(), "Tuotteet", TUOTTEITA, [&](std::size_t k) { AvaaTuote(i.peli, static_cast<Tuote>(k)); });
+    Korteittain(i.w->tuotteet(), "Tuotteet", TUOTTEITA,
+                [&](std::size_t k) { AvaaTuote(i.peli, static_cast<Tuote>(k)); });
     KirjanpitäjäKuva(i.peli);
     t.Ruutu("Tuotteet-Kirjanpitäjä");
     Korteittain(i.w->rakennukset(), "Rakennukset", TYÖMAITA, [&](std::size_t k) { ValitseKohde(i.peli, k); });
@@ -288,17 +298,11 @@ TEST_F(Geometry, TheBankWithEachSheetAndTheMarketReport) {
     i.w->AvaaRuutu(i.w->pankki());
     t.Ruutu("Pankki");
     const auto ennen = Tarkastus::Paikat(i.w->pankki());
-    OtaLainaa(i.peli);
-    t.Ruutu("Pankki-Laina");
-    SuljeLappu(i.peli);
-    TalletaRahaa(i.peli);
-    t.Ruutu("Pankki-Talletus");
-    SuljeLappu(i.peli);
-    AvaaVakuutukset(i.peli);
-    t.Ruutu("Pankki-Vakuutukset");
     // Both sheets can be open at once: they share the right column.
-    OtaLainaa(i.peli);
-    t.Ruutu("Pankki-Laina-Vakuutukset");
+    Vaiheittain({{"Pankki-Laina", [&] { OtaLainaa(i.peli); }},
+                 {"Pankki-Talletus", [&] { SuljeLappu(i.peli); TalletaRahaa(i.peli); }},
+                 {"Pankki-Vakuutukset", [&] { SuljeLappu(i.peli); AvaaVakuutukset(i.peli); }},
+                 {"Pankki-Laina-Vakuutukset", [&] { OtaLainaa(i.peli); }}});
     SuljeLappu(i.peli);
     Tarkastus::EiSiirry("Pankki", ennen, i.w->pankki());
     SuljeVakuutukset(i.peli);
@@ -323,39 +327,28 @@ TEST_F(Geometry, TheSuppliesWithEachList) {
 }
 
 TEST_F(Geometry, TheStableTheContractsTheCouponTheCurvesAndTheCareerScreens) {
-    i.w->AvaaRuutu(i.w->hevostalli());
-    t.Ruutu("Hevostalli");
-    i.w->AvaaRuutu(i.w->sopimukset());
-    t.Ruutu("Sopimukset");
-    UudetSopimukset(i.peli);
-    t.Ruutu("Sopimukset-Tarjoukset");
-    i.peli.m.Sop = {Sopimus{"Maito", 450, 2700, 3600, 17}, Sopimus{"Muna", 120, 480, 640, 9},
-                    Sopimus{"Puu", 30, 1800, 2400, 12}};
-    SuljeTarjoukset(i.peli);
-    NäytäSopimukset(i.peli);
-    t.Ruutu("Sopimukset-Paikat");
-    i.w->AvaaRavit();
-    t.Ruutu("Ravit");
-    LyöVetoa(i.peli);
-    ValitseVetolaji(i.peli, vetolaji::Trio);
-    NäytäRivi(i.peli, 1);
-    t.Ruutu("Ravit-Kuponki");
+    Vaiheittain({{"Hevostalli", [&] { i.w->AvaaRuutu(i.w->hevostalli()); }},
+                 {"Sopimukset", [&] { i.w->AvaaRuutu(i.w->sopimukset()); }},
+                 {"Sopimukset-Tarjoukset", [&] { UudetSopimukset(i.peli); }},
+                 {"Sopimukset-Paikat",
+                  [&] {
+                      i.peli.m.Sop = {Sopimus{"Maito", 450, 2700, 3600, 17}, Sopimus{"Muna", 120, 480, 640, 9},
+                                      Sopimus{"Puu", 30, 1800, 2400, 12}};
+                      SuljeTarjoukset(i.peli); NäytäSopimukset(i.peli);
+                  }},
+                 {"Ravit", [&] { i.w->AvaaRavit(); }},
+                 {"Ravit-Kuponki", [&] {
+                      LyöVetoa(i.peli);
+                      ValitseVetolaji(i.peli, vetolaji::Trio);
+                      NäytäRivi(i.peli, 1);
+                  }}});
     Korteittain(i.w->käyrät(), "Käyrät", KÄYRIÄ, [&](std::size_t k) { PiirräKäyrä(i.peli, static_cast<Käyrä>(k)); });
-    TuotteidenBrutto(i.peli);
-    t.Ruutu("Käyrät-Brutto");
-    TuotteidenNetto(i.peli);
-    t.Ruutu("Käyrät-Netto");
-    i.w->PalaaPääruutuun();
-    QTest::mouseClick(i.w->tanhua()->Command7(), Qt::LeftButton);
-    t.Ruutu("Tilanne");
-    AvaaPaneeli(i.peli);
-    t.Ruutu("Tilanne-Paneeli");
-    SuljePaneeli(i.peli);
-    QTest::mouseClick(i.w->tilanne()->Command4(), Qt::LeftButton);
-    t.Ruutu("Tilanne-Tarina");
-    SuljeTarina(i.peli);
-    EnnätysListat(i.peli);
-    t.Ruutu("Topten");
+    Vaiheittain({{"Käyrät-Brutto", [&] { TuotteidenBrutto(i.peli); }},
+                 {"Käyrät-Netto", [&] { TuotteidenNetto(i.peli); }},
+                 {"Tilanne", [&] { i.w->PalaaPääruutuun(); Klikkaa({i.w->tanhua()->Command7()}); }},
+                 {"Tilanne-Paneeli", [&] { AvaaPaneeli(i.peli); }},
+                 {"Tilanne-Tarina", [&] { SuljePaneeli(i.peli); Klikkaa({i.w->tilanne()->Command4()}); }},
+                 {"Topten", [&] { SuljeTarina(i.peli); EnnätysListat(i.peli); }}});
 }
 
 TEST_F(Geometry, TheMonthReport) {
