@@ -5,6 +5,7 @@
 #include "../core/kanavat.h"
 #include "../core/ohjaimet.h"
 #include "../core/peli.h"
+#include "../core/tähdet.h"
 #include "paneeli.h"
 #include "rakentaminen.h"
 #include "taulut/paneelit.h"
@@ -43,11 +44,6 @@ Ohjain Kuva(std::size_t kohde) {
     return o;
 }
 
-// The tip of a locked building: the stars that open it.
-std::string LukonVihje(int tähdet) {
-    return "Lukittu. Avautuu, kun tilallasi on" + Str(static_cast<long long>(tähdet)) +
-           (tähdet == 1 ? " tähti." : " tähteä.");
-}
 
 // A target's day label: its days, or "Lukittu" in red over a building the stars lock. Only a
 // building's label changes colour; a store's never turns red.

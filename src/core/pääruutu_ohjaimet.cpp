@@ -4,6 +4,7 @@
 #include "ohjaimet.h"
 #include "peli.h"
 #include "sää.h"
+#include "tähdet.h"
 
 namespace tanhua {
 
@@ -29,6 +30,13 @@ constexpr std::array<const char*, 5> TÄHTIEN_JÄRJESTYS{"Ensimmäinen", "Toinen
 const Lukemat& L(const Peli& p) { return p.näkymä.lukemat; }
 
 Ohjain Teksti(std::string t) { return Näkyvä(std::move(t)); }
+
+// A button the star lock keeps closed until the first star says so in its hint.
+Ohjain TähtienLukitsema(const Peli& p, const char* teksti, bool auki) {
+    Ohjain o = Näkyvä(teksti, p.näkymä.PääruutuKäytössä && auki);
+    if (!auki) o.vihje = LukonVihje(1);
+    return o;
+}
 }  // namespace
 
 void PääruudunOhjaimet(Ohjainluettelo& l) {
@@ -80,15 +88,12 @@ void PääruudunOhjaimet(Ohjainluettelo& l) {
         const std::string nimi = n.nimi;
         const char* teksti = n.teksti;
         yksi(n.nimi, [nimi, teksti](const Peli& p) {
-            bool käytössä = p.näkymä.PääruutuKäytössä;
-            if (nimi == "Command9") käytössä = käytössä && p.näkymä.Command9Käytössä;
-            return Näkyvä(teksti, käytössä);
+            if (nimi == "Command9") return TähtienLukitsema(p, teksti, p.näkymä.Command9Käytössä);
+            return Näkyvä(teksti, p.näkymä.PääruutuKäytössä);
         });
     }
     // The land screen's button, locked by the stars as the supplies' button is.
-    yksi("Command5", [](const Peli& p) {
-        return Näkyvä("Maa alueet", p.näkymä.PääruutuKäytössä && p.näkymä.Command5Käytössä);
-    });
+    yksi("Command5", [](const Peli& p) { return TähtienLukitsema(p, "Maa alueet", p.näkymä.Command5Käytössä); });
 
     // The contracts: the button, and the phone that rings while an offer waits.
     yksi("Command10", [](const Peli& p) { return Näkyvä("Sopimukset", p.näkymä.PääruutuKäytössä); });

@@ -1,6 +1,7 @@
 // The star rating of the farm.
 #include "tähdet.h"
 
+#include "laskenta.h"
 #include "peli.h"
 #include "taulut/tähdet.h"
 #include "viestit.h"
@@ -39,6 +40,11 @@ void NäytäTähti(Peli& peli, int indeksi) {
         return;
     }
     Ilmoita(peli, std::string(TÄHTITAULU[indeksi].vaatimus));
+}
+
+std::string LukonVihje(int tähdet) {
+    return "Lukittu. Avautuu, kun tilallasi on" + Str(static_cast<long long>(tähdet)) +
+           (tähdet == 1 ? " tähti." : " tähteä.");
 }
 
 }  // namespace tanhua

@@ -12,6 +12,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
+// std
+#include <tuple>
 
 namespace tanhua::ui {
 
@@ -346,6 +348,12 @@ void Tanhua::Päivitä() {
     for (auto [w, nimi] : ohjaimet) Näytä(w, lue(nimi));
     Näytä(lopetus_, lue("Lopetus"));
     Näytä(command5_, lue("Command5"));
+    // The two buttons the star lock keeps closed tell, under their own tip, the star that opens them.
+    for (auto [nappi, nimi, vihje] : {std::tuple{command5_, "Command5", "Metsä ja pelto omistukset"},
+                                      std::tuple{command9_, "Command9", "Lisä tarvikkeet"}}) {
+        const std::string lukko = lue(nimi).vihje;
+        nappi->setToolTip(lukko.empty() ? QString(vihje) : QString(vihje) + "\n" + Q(lukko));
+    }
     Näytä(stat_, lue("Stat"));
     Näytä(hepotalli_, lue("Hepotalli"));
     Näytä(command7_, lue("Command7"));

@@ -47,6 +47,16 @@ TEST(Window, StartsANewFarmFromTheStartScreenAndRefusesAnEmptyName) {
     QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Return);
     QTest::keyClick(i.w->tanhua()->Command4(), Qt::Key_Enter);
     EXPECT_EQ(i.peli.m.Päivä, 3);
+    // The star lock's two buttons tell the star that opens them, and lose the line once it is earned.
+    for (const int tähtiä : {0, 1}) {
+        Aseta(i.peli.m.TähtiLukitus, true);
+        Aseta(i.peli.m.Tähdet, tähtiä);
+        i.w->PalaaPääruutuun();
+        const QString lukko = tähtiä ? "" : "\nLukittu. Avautuu, kun tilallasi on 1 tähti.";
+        EXPECT_EQ(i.w->tanhua()->Command9()->toolTip(), "Lisä tarvikkeet" + lukko);
+        EXPECT_EQ(i.w->tanhua()->Command5()->toolTip(), "Metsä ja pelto omistukset" + lukko);
+        EXPECT_EQ(i.w->tanhua()->Command9()->isEnabled(), tähtiä == 1);
+    }
 }
 
 TEST(Window, TheMessageBoxAnswersToKAndEInBothStyles) {
