@@ -24,8 +24,6 @@ public:
     double Mittakaava() const { return mittakaava_; }
     // The picture that fills the margins around the canvas.
     void AsetaReunakuva(const QPixmap& kuva);
-    // A point of the window in the canvas' units (for tests and the pointer).
-    QPointF Kankaalle(const QPoint& ikkunassa) const { return mapToScene(ikkunassa); }
 
     // Called when the scale changes, so pictures and the pointer can be made again at the new size.
     std::function<void(double)> MittakaavaMuuttui;

@@ -84,6 +84,8 @@ Pääikkuna::Pääikkuna(Peli& peli) : peli_(peli) {
     uutiset_ = new ikkuna(peli_, pino_);
     kyltti_ = new RahaKyltti(peli_, pino_);
     kyltti_->hide();
+    // The plate's place at the canvas' top right, which every sub-screen's header row leaves free.
+    kyltti_->move(KANKAAN_LEVEYS - kyltti_->width() - 12, 12);
     message_ = new Message(peli_, sisältö_);
     pohja_ = new Pohja(peli_, this);
 
@@ -351,20 +353,7 @@ void Pääikkuna::AvaaRuutu(QWidget* ruutu) {
             if (ruutu == tilanne_) tilanne_->Avaa();
         });
     });
-    // The main form folds to its middle line and stays small; the screen opens from it; the main
-    // form gets its size back (PalautaKoko) while hidden.
-    const QRect sivu = pino_->currentWidget()->geometry();
-    tanhua_->setEnabled(false);
-    Taita(tanhua_, KuvanPienennys(peli_, sivu.height(), sivu.y(), Lomake::Pääruutu));
-    pino_->setCurrentWidget(ruutu);
-    Päivitä();
-    ruutu->setEnabled(false);
-    Taita(ruutu, KuvanSuurennus(peli_, sivu.height(), sivu.y(), Lomake::Alaruutu));
-    ruutu->setGeometry(sivu);
-    ruutu->setEnabled(true);
-    tanhua_->setGeometry(sivu);
-    tanhua_->setEnabled(peli_.näkymä.PääruutuKäytössä);
-    AsetteleKyltti();
+    TaitaToiseen(tanhua_, ruutu);
 }
 
 void Pääikkuna::AvaaRavit(QWidget* paluu) {
@@ -374,19 +363,23 @@ void Pääikkuna::AvaaRavit(QWidget* paluu) {
 }
 
 void Pääikkuna::TaitaToiseen(QWidget* pois, QWidget* esiin) {
-    // Each form is back at its own size when its fold ends; the main form pauses as it does when
-    // it folds for any screen.
+    // The form going away folds to its middle line and stays small; the next opens from that line;
+    // then the first gets its size back while hidden (PalautaKoko, for the main form). The main form
+    // pauses by its own counts.
     const QRect sivu = pois->geometry();
+    const auto lomake = [this](const QWidget* w) { return w == tanhua_ ? Lomake::Pääruutu : Lomake::Alaruutu; };
     pois->setEnabled(false);
-    Taita(pois, KuvanPienennys(peli_, sivu.height(), sivu.y(), pois == tanhua_ ? Lomake::Pääruutu : Lomake::Alaruutu));
-    pois->setGeometry(sivu);
-    pois->setEnabled(pois != tanhua_ || peli_.näkymä.PääruutuKäytössä);
+    Taita(pois, KuvanPienennys(peli_, sivu.height(), sivu.y(), lomake(pois)));
     pino_->setCurrentWidget(esiin);
-    Päivitä();
+    // The main screen is brought up to date by the way back's own operation, after its fold.
+    if (esiin == tanhua_) kyltti_->hide();
+    else Päivitä();
     esiin->setEnabled(false);
-    Taita(esiin, KuvanSuurennus(peli_, sivu.height(), sivu.y(), Lomake::Alaruutu));
-    esiin->setGeometry(sivu);
-    esiin->setEnabled(true);
+    Taita(esiin, KuvanSuurennus(peli_, sivu.height(), sivu.y(), lomake(esiin)));
+    for (QWidget* w : {pois, esiin}) {
+        w->setGeometry(sivu);
+        w->setEnabled(w != tanhua_ || peli_.näkymä.PääruutuKäytössä);
+    }
 }
 
 void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
@@ -396,23 +389,11 @@ void Pääikkuna::PalautaKohdistus(QWidget* ennen) {
 }
 
 void Pääikkuna::PalaaPääruutuun() {
-    // A screen folds away to its middle line; the main form then opens from it.
+    // A screen folds away to its middle line and the main form opens from it; from the main form,
+    // the report or the career's screens the main form simply comes up.
     QWidget* ruutu = pino_->currentWidget();
-    const QRect sivu = ruutu->geometry();
-    const bool taitto = OnAlaruutu(ruutu);
-    if (taitto) {
-        ruutu->setEnabled(false);
-        Taita(ruutu, KuvanPienennys(peli_, sivu.height(), sivu.y(), Lomake::Alaruutu));
-        ruutu->setGeometry(sivu);
-        ruutu->setEnabled(true);
-    }
-    pino_->setCurrentWidget(tanhua_);
-    if (taitto) {
-        kyltti_->hide();
-        tanhua_->setEnabled(false);
-        Taita(tanhua_, KuvanSuurennus(peli_, sivu.height(), sivu.y(), Lomake::Pääruutu));
-        tanhua_->setGeometry(sivu);
-    }
+    if (OnAlaruutu(ruutu)) TaitaToiseen(ruutu, tanhua_);
+    else pino_->setCurrentWidget(tanhua_);
     Toimi([this] { tanhua::PalaaPääruutuun(peli_); });
     PalautaKohdistus(nullptr);
 }
@@ -459,14 +440,11 @@ QWidget* Pääikkuna::UranRuutu(QWidget* nyt) {
     return oikea;
 }
 
-void Pääikkuna::AsetteleKyltti() { kyltti_->move(pino_->width() - kyltti_->width() - 12, 12); }
 
 void Pääikkuna::resizeEvent(QResizeEvent* tapahtuma) {
+    // The canvas keeps its size whatever the window's; only the logo's backdrop covers the window.
     QMainWindow::resizeEvent(tapahtuma);
-    AsetteleKyltti();
     if (pohja_ && pohja_->isVisible()) pohja_->setGeometry(rect());
-    if (uutiset_->isVisible())
-        uutiset_->move((pino_->width() - uutiset_->width()) / 2, (pino_->height() - uutiset_->height()) / 2);
 }
 
 bool Pääikkuna::eventFilter(QObject* kohde, QEvent* tapahtuma) {

@@ -111,7 +111,6 @@ protected:
     bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
 
 private:
-    void AsetteleKyltti();
     bool OnAlaruutu(QWidget* ruutu) const;
     // The Tilanne and top-ten screens lead to each other, and the story keeps its screen up.
     QWidget* UranRuutu(QWidget* nyt);
@@ -121,7 +120,7 @@ private:
     void MittakaavaMuuttui();
     // A screen folding to its middle line (or opening from it) by the rounds the rules give.
     void Taita(QWidget* lomake, const Taitto& taitto);
-    // One screen folds away and the next opens from its middle line (the stable and the races).
+    // One form folds away and the next opens from its middle line, as every way to a screen and back does.
     void TaitaToiseen(QWidget* pois, QWidget* esiin);
 
     Peli& peli_;
